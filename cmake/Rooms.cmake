@@ -1,0 +1,52 @@
+# One leaf folder under src/ is one room is one static library. The rooms a room may include are
+# the ones it names here; script/check-rooms holds the includes against the same table.
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env
+      CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
+      CCACHE_BASEDIR=${PROJECT_SOURCE_DIR} ${CCACHE_PROGRAM})
+endif()
+
+add_library(skeldon_options INTERFACE)
+target_compile_options(skeldon_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang" AND CCACHE_PROGRAM)
+  # A precompiled header that carries its time stamp can not be cached.
+  target_compile_options(skeldon_options INTERFACE "SHELL:-Xclang -fno-pch-timestamp")
+endif()
+if(SKELDON_SANITIZE)
+  target_compile_options(skeldon_options INTERFACE
+    -fsanitize=${SKELDON_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(skeldon_options INTERFACE -fsanitize=${SKELDON_SANITIZE})
+endif()
+
+# skeldon_room(<target> [ROOMS other targets] [LIBS private libraries])
+function(skeldon_room target)
+  cmake_parse_arguments(ARG "" "" "ROOMS;LIBS" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h platform/*.cpp platform/*.h)
+  add_library(${target} STATIC ${sources})
+  target_include_directories(${target} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+  target_link_libraries(${target} PUBLIC ${ARG_ROOMS} PRIVATE skeldon_options ${ARG_LIBS})
+  set_target_properties(${target} PROPERTIES LINKER_LANGUAGE CXX)
+endfunction()
+
+# skeldon_test(<name> [LIBS targets] [EXCEPT files]): every *.cpp of the calling folder is one
+# GoogleTest program, registered with CTest under the folder's name.
+function(skeldon_test name)
+  cmake_parse_arguments(ARG "" "" "LIBS;EXCEPT;LABELS" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h)
+  foreach(file ${ARG_EXCEPT})
+    list(REMOVE_ITEM sources ${CMAKE_CURRENT_SOURCE_DIR}/${file})
+  endforeach()
+  set(target test_${name})
+  add_executable(${target} ${sources})
+  target_include_directories(${target} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+  target_link_libraries(${target} PRIVATE skeldon_options ${ARG_LIBS} GTest::gmock GTest::gtest_main)
+  target_precompile_headers(${target} PRIVATE <gmock/gmock.h> <gtest/gtest.h> <string> <vector>)
+  add_test(NAME ${name} COMMAND ${target})
+  # Nothing a test does may reach the home of whoever runs it.
+  set_tests_properties(${name} PROPERTIES
+    TIMEOUT 600 LABELS "${ARG_LABELS}"
+    ENVIRONMENT "HOME=${PROJECT_BINARY_DIR}/testhome;XDG_DATA_HOME=${PROJECT_BINARY_DIR}/testhome/data;TZ=Europe/Berlin;LC_ALL=C.UTF-8")
+endfunction()

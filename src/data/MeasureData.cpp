@@ -20,6 +20,12 @@ void CMeasureData::AddRecord(const CMeasureRecord& record)
     LinesChanged();
 }
 
+void CMeasureData::AddRecords(std::span<const CMeasureRecord> records)
+{
+    m_records.insert(m_records.end(), records.begin(), records.end());
+    LinesChanged();
+}
+
 void CMeasureData::SetSize(std::size_t count)
 {
     m_records.resize(count, CMeasureRecord(Now()));

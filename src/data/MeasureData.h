@@ -42,6 +42,8 @@ public:
     void SetRecord(std::size_t index, const CMeasureRecord& record);
     /// Adds a line at the end.
     void AddRecord(const CMeasureRecord& record);
+    /// Adds lines at the end, in their order.
+    void AddRecords(std::span<const CMeasureRecord> records);
     /// Grows or shrinks to `count` lines; new ones are lines of the present time with values 0.
     void SetSize(std::size_t count);
     /// Makes room for `count` lines without changing them.

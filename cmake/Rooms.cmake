@@ -24,14 +24,24 @@ if(SKELDON_FUZZ)
   target_compile_options(skeldon_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
-# skeldon_room(<target> [ROOMS other targets] [LIBS private libraries])
+# skeldon_room(<target> [ROOMS other targets] [LIBS private libraries]): all sources of the calling
+# folder but Main.cpp.
 function(skeldon_room target)
   cmake_parse_arguments(ARG "" "" "ROOMS;LIBS" ${ARGN})
   file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h platform/*.cpp platform/*.h)
+  list(FILTER sources EXCLUDE REGEX "/Main\\.cpp$")
   add_library(${target} STATIC ${sources})
   target_include_directories(${target} PUBLIC ${PROJECT_SOURCE_DIR}/src)
   target_link_libraries(${target} PUBLIC ${ARG_ROOMS} PRIVATE skeldon_options ${ARG_LIBS})
   set_target_properties(${target} PROPERTIES LINKER_LANGUAGE CXX)
+endfunction()
+
+# skeldon_program(<name> <room> [LIBS libraries]): Main.cpp of the calling folder on top of the room.
+function(skeldon_program name room)
+  cmake_parse_arguments(ARG "" "" "LIBS" ${ARGN})
+  add_executable(${name} Main.cpp)
+  target_link_libraries(${name} PRIVATE skeldon_options ${room} ${ARG_LIBS})
+  install(TARGETS ${name} RUNTIME)
 endfunction()
 
 # skeldon_test(<name> [LIBS targets] [EXCEPT files]): every *.cpp of the calling folder is one

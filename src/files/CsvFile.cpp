@@ -34,15 +34,22 @@ std::error_code FormatCsv(const CMeasureData& data, const CsvOptions& options,
     return buffer.Finish();
 }
 
-std::error_code ExportCsv(const CMeasureData& data, const std::filesystem::path& path,
-                          const CsvOptions& options, const CsvNames& names, const CsvFilter& filter)
+std::error_code WriteCsvFile(const CMeasureData& data, const std::filesystem::path& path,
+                             const CsvOptions& options, const CsvNames& names,
+                             const CsvFilter& filter)
 {
     CSafeFile file;
-    if (const std::error_code error = file.Open(WithExtension(path, "csv")))
+    if (const std::error_code error = file.Open(path))
         return error;
     if (const std::error_code error = FormatCsv(data, options, names, filter, file))
         return error;
     return file.Commit();
+}
+
+std::error_code ExportCsv(const CMeasureData& data, const std::filesystem::path& path,
+                          const CsvOptions& options, const CsvNames& names, const CsvFilter& filter)
+{
+    return WriteCsvFile(data, WithExtension(path, "csv"), options, names, filter);
 }
 
 } // namespace skeldon

@@ -20,8 +20,14 @@ struct CsvFilter
                                         const CsvNames& names, const CsvFilter& filter,
                                         COutput& output);
 
-/// Writes a CSV file under `path` with its extension replaced by "csv", saving what was there from
-/// loss (see `CSafeFile`). The data set is not changed.
+/// Writes a CSV file, saving what was there from loss (see `CSafeFile`). The data set is not
+/// changed.
+[[nodiscard]] std::error_code WriteCsvFile(const CMeasureData& data,
+                                           const std::filesystem::path& path,
+                                           const CsvOptions& options, const CsvNames& names = {},
+                                           const CsvFilter& filter = {});
+
+/// The same under `path` with its extension replaced by "csv".
 [[nodiscard]] std::error_code ExportCsv(const CMeasureData& data, const std::filesystem::path& path,
                                         const CsvOptions& options, const CsvNames& names = {},
                                         const CsvFilter& filter = {});

@@ -1,0 +1,45 @@
+#include "recorder/RecordStream.h"
+
+#include "data/RecordFlags.h"
+
+#include <array>
+
+namespace skeldon {
+
+CRecordStream::CRecordStream(CByteStream& stream, const CRecordDecoder& decoder)
+    : m_reader(stream)
+    , m_decoder(decoder)
+{}
+
+bool CRecordStream::NextRecord(CMeasureRecord& record)
+{
+    const std::size_t full = m_decoder.LineDigits();
+    bool valid = false;
+    bool isPlain = false;
+    if (const char* const text = m_reader.PlainLine(full))
+        valid = m_decoder.DecodePlainLine(text, record, isPlain);
+    if (isPlain) {
+        m_reader.SkipPlainLine(full);
+    } else {
+        std::array<char, MostLineDigits + 2> line;
+        const std::size_t length = m_reader.ReadLine(line.data(), m_decoder.MostDigits());
+        if (length == 0)
+            return false;
+        valid = m_decoder.DecodeLine({line.data(), length}, record) && length >= full;
+    }
+    if (!valid)
+        record.SetFlags(RecordFlag::Abnormal);
+    return true;
+}
+
+void DecodeStream(std::string_view bytes, const CRecordDecoder& decoder, std::size_t most,
+                  std::vector<CMeasureRecord>& records)
+{
+    CMemoryStream stream(bytes);
+    CRecordStream lines(stream, decoder);
+    CMeasureRecord record;
+    for (std::size_t i = 0; i < most && lines.NextRecord(record); ++i)
+        records.push_back(record);
+}
+
+} // namespace skeldon

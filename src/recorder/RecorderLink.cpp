@@ -1,0 +1,80 @@
+#include "recorder/RecorderLink.h"
+
+#include "recorder/StatusReport.h"
+
+#include <array>
+#include <cstdio>
+#include <utility>
+
+namespace skeldon {
+
+CRecorderLink::CRecorderLink(std::unique_ptr<CCableFinder> finder, PortOpener opener, CClock& clock)
+    : CRecorderTransport(std::move(finder), std::move(opener), clock)
+{
+    m_year = ToLocalFields(clock.Now()).year;
+}
+
+CRecorderLink::~CRecorderLink()
+{
+    m_abandoned = true;
+    if (m_thread.joinable())
+        m_thread.join();
+}
+
+bool CRecorderLink::ReadStatus()
+{
+    if (m_busy)
+        return false;
+    const std::string reply = SendText("p") ? ReadReply() : std::string();
+    if (reply.empty()) {
+        ClosePort();
+        return false;
+    }
+    if (!ReadStatusReport(reply, ToLocalFields(Clock().Now()).year, *this))
+        return false;
+    ClosePort();
+    m_rangeChanged = false;
+    return true;
+}
+
+bool CRecorderLink::Calibrate()
+{
+    if (m_busy)
+        return false;
+    const bool answered = SendCommand("w99");
+    ClosePort();
+    return answered;
+}
+
+bool CRecorderLink::ChangeRange()
+{
+    if (m_busy || !CanChangeRange())
+        return false;
+    std::array<char, 16> command{};
+    std::snprintf(command.data(), command.size(), "%02d", static_cast<int>(GetOtherRange()));
+    const bool answered = SendCommand(command.data());
+    ClosePort();
+    if (answered)
+        m_rangeChanged = true;
+    return answered;
+}
+
+bool CRecorderLink::SendMonitorCommand(std::string_view text)
+{
+    if (m_busy || !SendText(text))
+        return false;
+    m_timedOut = false;
+    std::uint32_t lastByte = Clock().TickMs();
+    while (!m_timedOut) {
+        const std::string_view bytes = PeekBytes();
+        ReportBytes(bytes);
+        TakeBytes(bytes.size());
+        if (!bytes.empty())
+            lastByte = Clock().TickMs();
+        else
+            m_timedOut = SilentSince(lastByte);
+    }
+    return true;
+}
+
+} // namespace skeldon

@@ -1,0 +1,159 @@
+#include "recorder/platform/PosixSerialPort.h"
+
+#include "recorder/platform/TerminalSetting.h"
+
+#include <cerrno>
+#include <chrono>
+
+#include <fcntl.h>
+#include <linux/serial.h>
+#include <poll.h>
+#include <sys/file.h>
+#include <sys/ioctl.h>
+#include <unistd.h>
+
+namespace skeldon {
+
+namespace {
+
+/// How long a device may take nothing of what is written.
+constexpr int WriteWaitMs = 15000;
+
+std::error_code SystemError(int code)
+{
+    return {code, std::generic_category()};
+}
+
+std::error_code LastSystemError()
+{
+    return SystemError(errno);
+}
+
+/// The cable or the other side of a pseudo terminal is gone.
+std::error_code HungUp()
+{
+    return SystemError(EIO);
+}
+
+/// Waits until the descriptor is ready for `events`. 0 when the time is over, below 0 on a failure.
+int WaitFor(int descriptor, short events, int milliseconds)
+{
+    using Clock = std::chrono::steady_clock;
+    const auto end = Clock::now() + std::chrono::milliseconds(milliseconds);
+    pollfd entry{descriptor, events, 0};
+    for (;;) {
+        const auto left = std::chrono::ceil<std::chrono::milliseconds>(end - Clock::now()).count();
+        const int ready = ::poll(&entry, 1, left > 0 ? static_cast<int>(left) : 0);
+        if (ready >= 0 || errno != EINTR)
+            return ready;
+    }
+}
+
+bool WouldBlock()
+{
+    return errno == EAGAIN || errno == EWOULDBLOCK;
+}
+
+} // namespace
+
+std::unique_ptr<CSerialPort> CPosixSerialPort::Open(const std::string& path, std::error_code& error)
+{
+    const int descriptor = ::open(path.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC);
+    if (descriptor < 0) {
+        error = LastSystemError();
+        return nullptr;
+    }
+    if (::isatty(descriptor) == 0) {
+        error = SystemError(ENOTTY);
+        ::close(descriptor);
+        return nullptr;
+    }
+    // The lock keeps a second copy of this program out even where it may open any device.
+    if (::flock(descriptor, LOCK_EX | LOCK_NB) != 0) {
+        error = WouldBlock() ? SystemError(EBUSY) : LastSystemError();
+        ::close(descriptor);
+        return nullptr;
+    }
+    std::unique_ptr<CPosixSerialPort> port(new CPosixSerialPort(descriptor));
+    (void)::ioctl(descriptor, TIOCEXCL);
+    (void)SetUpTerminal(descriptor);
+    port->m_errorCounts = port->CountErrors();
+    error.clear();
+    return port;
+}
+
+CPosixSerialPort::CPosixSerialPort(int descriptor)
+    : m_descriptor(descriptor)
+{}
+
+CPosixSerialPort::~CPosixSerialPort()
+{
+    (void)::ioctl(m_descriptor, TIOCNXCL);
+    ::close(m_descriptor);
+}
+
+CSerialPort::Transfer CPosixSerialPort::Read(std::span<char> buffer)
+{
+    for (bool waited = false;; waited = true) {
+        const ssize_t count = ::read(m_descriptor, buffer.data(), buffer.size());
+        if (count > 0)
+            return {static_cast<std::size_t>(count), {}};
+        if (count == 0)
+            return {0, HungUp()};
+        if (errno == EINTR)
+            continue;
+        if (!WouldBlock())
+            return {0, LastSystemError()};
+        if (waited)
+            return {0, {}};
+        const int ready = WaitFor(m_descriptor, POLLIN, SerialSetting::ReadWaitMs);
+        if (ready < 0)
+            return {0, LastSystemError()};
+        if (ready == 0)
+            return {0, {}};
+    }
+}
+
+CSerialPort::Transfer CPosixSerialPort::Write(std::string_view bytes)
+{
+    Transfer written;
+    while (written.count < bytes.size()) {
+        const std::string_view rest = bytes.substr(written.count);
+        const ssize_t count = ::write(m_descriptor, rest.data(), rest.size());
+        if (count > 0) {
+            written.count += static_cast<std::size_t>(count);
+        } else if (count == 0 || WouldBlock()) {
+            const int ready = WaitFor(m_descriptor, POLLOUT, WriteWaitMs);
+            if (ready <= 0) {
+                written.error = ready == 0 ? SystemError(ETIMEDOUT) : LastSystemError();
+                return written;
+            }
+        } else if (errno != EINTR) {
+            written.error = LastSystemError();
+            return written;
+        }
+    }
+    return written;
+}
+
+std::optional<CSerialPort::LineState> CPosixSerialPort::ClearErrors()
+{
+    int queued = 0;
+    if (::ioctl(m_descriptor, FIONREAD, &queued) != 0)
+        return std::nullopt;
+    const ErrorCounts counts = CountErrors();
+    const bool errors = counts != m_errorCounts;
+    m_errorCounts = counts;
+    return LineState{errors, queued > 0 ? static_cast<std::size_t>(queued) : 0};
+}
+
+CPosixSerialPort::ErrorCounts CPosixSerialPort::CountErrors() const
+{
+    serial_icounter_struct counter{};
+    // A device without such counters, as a pseudo terminal is, has no line errors.
+    if (::ioctl(m_descriptor, TIOCGICOUNT, &counter) != 0)
+        return {};
+    return {counter.frame, counter.overrun, counter.parity, counter.brk, counter.buf_overrun};
+}
+
+} // namespace skeldon

@@ -10,15 +10,25 @@ namespace {
 
 constexpr int LargestMsec = 999;
 
-/// The value of each upper-case hexadecimal digit; `NoDigit` for all other characters.
-constexpr std::uint8_t NoDigit = 0x80;
-constexpr std::array<std::uint8_t, 256> DigitValues = [] {
-    std::array<std::uint8_t, 256> values{};
-    values.fill(NoDigit);
-    for (unsigned i = 0; i < 10; ++i)
-        values['0' + i] = static_cast<std::uint8_t>(i);
-    for (unsigned i = 0; i < 6; ++i)
-        values['A' + i] = static_cast<std::uint8_t>(10 + i);
+constexpr std::size_t PairIndex(char first, char second)
+{
+    return std::size_t{static_cast<unsigned char>(first)} << 8 |
+           std::size_t{static_cast<unsigned char>(second)};
+}
+
+/// The value of every pair of upper-case hexadecimal digits, `NoByte` for all other pairs. Of its
+/// 128 KiB only the digits' few cache lines are used.
+constexpr std::uint16_t NoByte = 0x8000;
+constexpr std::size_t PairCount = 65536;
+constexpr auto PairValues = [] {
+    constexpr std::string_view Digits = "0123456789ABCDEF";
+    std::array<std::uint16_t, PairCount> values{};
+    values.fill(NoByte);
+    for (std::size_t high = 0; high < Digits.size(); ++high) {
+        for (std::size_t low = 0; low < Digits.size(); ++low)
+            values[PairIndex(Digits[high], Digits[low])] =
+                static_cast<std::uint16_t>(high << 4 | low);
+    }
     return values;
 }();
 
@@ -58,19 +68,17 @@ void ForceIntoRange(CalendarFields& fields)
 
 /// The packed time stamp: month 4 bits, 2 unused, day 5, hour 5, minute 6, second 6, then 4 bits
 /// that the layouts use differently.
-CalendarFields UnpackTime(const std::uint8_t* bytes, int year)
+inline CalendarFields UnpackTime(std::uint32_t word, int year)
 {
-    const std::uint32_t word = std::uint32_t{bytes[0]} << 24 | std::uint32_t{bytes[1]} << 16 |
-                               std::uint32_t{bytes[2]} << 8 | std::uint32_t{bytes[3]};
     const auto bits = [word](unsigned shift, unsigned count) {
         return static_cast<int>(word >> shift & ((1U << count) - 1));
     };
     return {year, bits(28, 4), bits(21, 5), bits(16, 5), bits(10, 6), bits(4, 6)};
 }
 
-int LowBits(std::uint8_t byte)
+int LowBits(std::uint32_t word)
 {
-    return byte & 0x0F;
+    return static_cast<int>(word & 0x0F);
 }
 
 } // namespace
@@ -96,26 +104,25 @@ CRecordDecoder::CRecordDecoder(const RecorderStatus& status, bool hasHumidity)
 
 bool CRecordDecoder::DecodeLine(std::string_view text, CMeasureRecord& record)
 {
-    LineBytes bytes{};
-    for (std::size_t i = 0; i < bytes.size(); ++i) {
+    LineBytes bytes;
+    for (std::size_t i = 0; i < MostLineDigits / 2; ++i) {
         const char high = 2 * i < text.size() ? text[2 * i] : '0';
         const char low = 2 * i + 1 < text.size() ? text[2 * i + 1] : '0';
-        bytes[i] = HexByte(high, low);
+        bytes.Set(i, HexByte(high, low));
     }
     return DecodeBytes(bytes, record);
 }
 
 bool CRecordDecoder::DecodePlainLine(const char* text, CMeasureRecord& record, bool& isPlain)
 {
-    LineBytes bytes{};
-    unsigned all = 0;
+    LineBytes bytes;
+    std::uint16_t all = 0;
     for (std::size_t i = 0; i < m_lineDigits / 2; ++i) {
-        const unsigned high = DigitValues[static_cast<unsigned char>(text[2 * i])];
-        const unsigned low = DigitValues[static_cast<unsigned char>(text[2 * i + 1])];
-        all |= high | low;
-        bytes[i] = static_cast<std::uint8_t>(high << 4 | low);
+        const std::uint16_t value = PairValues[PairIndex(text[2 * i], text[2 * i + 1])];
+        all |= value;
+        bytes.Set(i, static_cast<std::uint8_t>(value));
     }
-    isPlain = (all & NoDigit) == 0;
+    isPlain = (all & NoByte) == 0;
     return isPlain && DecodeBytes(bytes, record);
 }
 
@@ -127,11 +134,11 @@ bool CRecordDecoder::DecodeBytes(const LineBytes& bytes, CMeasureRecord& record)
 /// The four low bits of the time stamp are sixteenths of a second.
 bool CRecordDecoder::DecodeOldest(const LineBytes& bytes, CMeasureRecord& record)
 {
-    CalendarFields fields = UnpackTime(bytes.data(), m_year);
+    CalendarFields fields = UnpackTime(bytes.time, m_year);
     const bool valid = IsValid(fields);
     if (!valid)
         ForceIntoRange(fields);
-    const int tenthMsec = LowBits(bytes[3]) * 625;
+    const int tenthMsec = LowBits(bytes.time) * 625;
     const int msec = tenthMsec / 10 + (tenthMsec % 10 > 4 ? 1 : 0);
     record.SetValues(m_calendar.ToSeconds(fields), static_cast<std::uint32_t>(msec),
                      m_axis[bytes[4]], m_axis[bytes[5]], m_axis[bytes[6]], Signed(bytes[7]), 0.0);
@@ -142,13 +149,13 @@ bool CRecordDecoder::DecodeOldest(const LineBytes& bytes, CMeasureRecord& record
 /// the next higher whole degree: -1 with 5 tenths is -0.5, and -1 with none is 0.
 bool CRecordDecoder::DecodeNewer(const LineBytes& bytes, CMeasureRecord& record)
 {
-    CalendarFields fields = UnpackTime(bytes.data(), m_year);
+    CalendarFields fields = UnpackTime(bytes.time, m_year);
     const int msec = Signed(bytes[8]) * 10;
     const bool validTime = IsValid(fields);
     if (!validTime)
         ForceIntoRange(fields);
     const int degrees = Signed(bytes[7]);
-    const int tenths = LowBits(bytes[3]);
+    const int tenths = LowBits(bytes.time);
     const double temperature = degrees < 0 ? -tenths * 0.1 + (degrees + 1) : tenths * 0.1 + degrees;
     const int humidity = m_alpha && m_hasHumidity ? std::clamp(Signed(bytes[9]), 0, 100) : 0;
     // A time below zero is stored as the large number it wraps to, for the analysis to find.

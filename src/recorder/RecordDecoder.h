@@ -41,7 +41,27 @@ public:
     bool DecodePlainLine(const char* text, CMeasureRecord& record, bool& isPlain);
 
 private:
-    using LineBytes = std::array<std::uint8_t, MostLineDigits / 2>;
+    /// A line's bytes. The time stamp is put together while they are read: stored one by one and
+    /// loaded as a word it would hold up the processor on every line.
+    struct LineBytes
+    {
+        void Set(std::size_t place, std::uint8_t value)
+        {
+            if (place < TimeBytes)
+                time = time << 8 | value;
+            else
+                values[place - TimeBytes] = value;
+        }
+        /// The byte at `place`, behind the time stamp.
+        [[nodiscard]] std::uint8_t operator[](std::size_t place) const
+        {
+            return values[place - TimeBytes];
+        }
+
+        static constexpr std::size_t TimeBytes = 4;
+        std::uint32_t time = 0;
+        std::array<std::uint8_t, MostLineDigits / 2 - TimeBytes> values{};
+    };
 
     bool DecodeBytes(const LineBytes& bytes, CMeasureRecord& record);
     bool DecodeOldest(const LineBytes& bytes, CMeasureRecord& record);

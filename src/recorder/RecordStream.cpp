@@ -33,7 +33,7 @@ bool CRecordStream::NextRecord(CMeasureRecord& record)
 }
 
 void DecodeStream(std::string_view bytes, const CRecordDecoder& decoder, std::size_t most,
-                  std::vector<CMeasureRecord>& records)
+                  RecordArray& records)
 {
     CMemoryStream stream(bytes);
     CRecordStream lines(stream, decoder);

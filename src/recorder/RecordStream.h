@@ -1,12 +1,12 @@
 #pragma once
 
 #include "data/MeasureRecord.h"
+#include "data/RecordArray.h"
 #include "recorder/LineReader.h"
 #include "recorder/RecordDecoder.h"
 
 #include <cstddef>
 #include <string_view>
-#include <vector>
 
 namespace skeldon {
 
@@ -30,6 +30,6 @@ private:
 /// Adds the records of a stream in memory to `records`, at most `most` of them, as a read-back
 /// does: with one record used for all lines.
 void DecodeStream(std::string_view bytes, const CRecordDecoder& decoder, std::size_t most,
-                  std::vector<CMeasureRecord>& records);
+                  RecordArray& records);
 
 } // namespace skeldon

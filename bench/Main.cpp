@@ -121,9 +121,9 @@ int main(int argc, char** argv)
     const int rounds = argc > 1 ? std::atoi(argv[1]) : DefaultRounds;
     int count = 1;
     benchmark::Initialize(&count, argv);
-    const std::vector<Work> works{
-        AddLoad(),     AddSave(), AddCsv(), AddAnalysisOfFile(), AddAnalysisOfDownload(),
-        AddSignature()};
+    const std::vector<Work> works{AddLoad(),     AddSave(),           AddCsv(),
+                                  AddDecode(),   AddAnalysisOfFile(), AddAnalysisOfDownload(),
+                                  AddSignature()};
     const Samples samples = RunRounds(rounds);
     PrintTimes(samples, works);
     PrintRatios(samples, works);

@@ -11,6 +11,8 @@ endif()
 add_library(skeldon_options INTERFACE)
 target_compile_options(skeldon_options INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
+# Nobody asks the math functions for errno, and a square root is an instruction without it.
+target_compile_options(skeldon_options INTERFACE -fno-math-errno)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang" AND CCACHE_PROGRAM)
   # A precompiled header that carries its time stamp can not be cached.
   target_compile_options(skeldon_options INTERFACE "SHELL:-Xclang -fno-pch-timestamp")

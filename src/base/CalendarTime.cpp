@@ -13,12 +13,6 @@ int TimeOfDay(const CalendarFields& fields)
     return fields.hour * SecondsPerHour + fields.minute * SecondsPerMinute + fields.second;
 }
 
-bool IsTimeOfDay(const CalendarFields& fields)
-{
-    return fields.hour >= 0 && fields.hour < 24 && fields.minute >= 0 && fields.minute < 60 &&
-           fields.second >= 0 && fields.second < 60;
-}
-
 } // namespace
 
 CalendarSeconds OneYearLater(const CalendarFields& fields)
@@ -60,22 +54,13 @@ CalendarFields CLocalCalendar::ToFields(CalendarSeconds seconds)
             time % SecondsPerMinute};
 }
 
-CalendarSeconds CLocalCalendar::ToSeconds(const CalendarFields& fields)
+CalendarSeconds CLocalCalendar::ToSecondsElse(const CalendarFields& fields)
 {
-    const auto isDay = [&fields](const LocalDay& day) {
-        return day.end != day.begin && fields.day == day.day && fields.month == day.month &&
-               fields.year == day.year;
-    };
-    if (!IsTimeOfDay(fields))
-        return FromLocalFields(fields);
-    if (!isDay(m_day)) {
-        const LocalDay day =
-            PlainDayOf(FromLocalFields({fields.year, fields.month, fields.day, 0, 0, 0}));
-        if (!isDay(day))
-            return FromLocalFields(fields);
+    const CalendarSeconds seconds = FromLocalFields(fields);
+    const LocalDay day = PlainDayOf(seconds);
+    if (day.day == fields.day && day.month == fields.month && day.year == fields.year)
         m_day = day;
-    }
-    return m_day.begin + TimeOfDay(fields);
+    return seconds;
 }
 
 } // namespace skeldon

@@ -61,11 +61,27 @@ class CLocalCalendar
 {
 public:
     [[nodiscard]] CalendarFields ToFields(CalendarSeconds seconds);
-    [[nodiscard]] CalendarSeconds ToSeconds(const CalendarFields& fields);
+    [[nodiscard]] CalendarSeconds ToSeconds(const CalendarFields& fields)
+    {
+        constexpr int SecondsPerHour = 3600;
+        constexpr int SecondsPerMinute = 60;
+        const bool isKnown = fields.day == m_day.day && fields.month == m_day.month &&
+                             fields.year == m_day.year && m_day.end != m_day.begin;
+        const bool isTime = static_cast<unsigned>(fields.hour) < 24 &&
+                            static_cast<unsigned>(fields.minute) < 60 &&
+                            static_cast<unsigned>(fields.second) < 60;
+        if (!isKnown || !isTime)
+            return ToSecondsElse(fields);
+        return m_day.begin + fields.hour * SecondsPerHour + fields.minute * SecondsPerMinute +
+               fields.second;
+    }
     /// As `PlainDayOf`.
     [[nodiscard]] const LocalDay& Day(CalendarSeconds seconds);
 
 private:
+    /// For a day that is not the remembered one, or no time of day.
+    [[nodiscard]] CalendarSeconds ToSecondsElse(const CalendarFields& fields);
+
     LocalDay m_day;
 };
 

@@ -3,6 +3,7 @@
 #include "data/RecordFlags.h"
 
 #include <array>
+#include <cstdint>
 
 namespace skeldon {
 
@@ -37,9 +38,18 @@ void DecodeStream(std::string_view bytes, const CRecordDecoder& decoder, std::si
 {
     CMemoryStream stream(bytes);
     CRecordStream lines(stream, decoder);
-    CMeasureRecord record;
-    for (std::size_t i = 0; i < most && lines.NextRecord(record); ++i)
-        records.push_back(record);
+    // As one record used for all lines: the flags of a line are those of the line before until
+    // they are replaced. Decoded where it stays, since a copy would wait for the stores.
+    std::uint16_t flags = 0;
+    for (std::size_t i = 0; i < most; ++i) {
+        CMeasureRecord& record = records.emplace_back(CalendarSeconds{0});
+        record.m_flags = flags;
+        if (!lines.NextRecord(record)) {
+            records.pop_back();
+            return;
+        }
+        flags = record.m_flags;
+    }
 }
 
 } // namespace skeldon

@@ -22,11 +22,10 @@ RecorderStatus Recorder(int type, bool alpha)
     return status;
 }
 
-std::vector<CMeasureRecord> Decode(std::string_view bytes,
-                                   const RecorderStatus& status = Recorder(10, false),
-                                   std::size_t most = 1000)
+RecordArray Decode(std::string_view bytes, const RecorderStatus& status = Recorder(10, false),
+                   std::size_t most = 1000)
 {
-    std::vector<CMeasureRecord> records;
+    RecordArray records;
     DecodeStream(bytes, CRecordDecoder(status, true), most, records);
     return records;
 }
@@ -83,7 +82,7 @@ TEST(ReadLine, EndsTheStreamAtTheMark)
 TEST(ReadLine, DropsEverythingElseWithoutATrace)
 {
     const std::string noisy = std::string(" 52AD\0B7g", 9) + "abcdef A00102\xFF" + "0304z05 \r\n";
-    const std::vector<CMeasureRecord> records = Decode(noisy);
+    const RecordArray records = Decode(noisy);
     ASSERT_EQ(records.size(), 1U);
     EXPECT_EQ(records[0].m_checkKey, Decode(Line + "\r\n")[0].m_checkKey);
     EXPECT_EQ(records[0].m_flags, 0);
@@ -92,12 +91,12 @@ TEST(ReadLine, DropsEverythingElseWithoutATrace)
 TEST(ReadLine, EndsWhenItIsFull)
 {
     // 18 digits are a line; up to 20 are taken for it, of which the last two mean nothing.
-    const std::vector<CMeasureRecord> records = Decode(Line + "99" + Line + "\r\n");
+    const RecordArray records = Decode(Line + "99" + Line + "\r\n");
     ASSERT_EQ(records.size(), 2U);
     EXPECT_EQ(records[0].m_x, records[1].m_x);
     EXPECT_EQ(records[1].m_flags, 0);
     // One digit more begins a line of its own.
-    const std::vector<CMeasureRecord> cut = Decode(Line + "999\r\n");
+    const RecordArray cut = Decode(Line + "999\r\n");
     ASSERT_EQ(cut.size(), 2U);
     EXPECT_EQ(cut[0].m_flags, 0);
     EXPECT_EQ(cut[1].m_flags, RecordFlag::Abnormal);
@@ -105,7 +104,7 @@ TEST(ReadLine, EndsWhenItIsFull)
 
 TEST(NextRecord, FillsAShortLineWithZerosAndFlagsIt)
 {
-    const std::vector<CMeasureRecord> records = Decode("52ADB7\r\n");
+    const RecordArray records = Decode("52ADB7\r\n");
     ASSERT_EQ(records.size(), 1U);
     EXPECT_EQ(records[0].m_flags, RecordFlag::Abnormal);
     EXPECT_EQ(records[0].m_x, 0.0);
@@ -117,14 +116,14 @@ TEST(NextRecord, FillsAShortLineWithZerosAndFlagsIt)
 
 TEST(NextRecord, FlagsAShortLineEvenIfItsTimeIsGood)
 {
-    const std::vector<CMeasureRecord> records = Decode(Line.substr(0, 17) + "\r\n");
+    const RecordArray records = Decode(Line.substr(0, 17) + "\r\n");
     ASSERT_EQ(records.size(), 1U);
     EXPECT_EQ(records[0].m_flags, RecordFlag::Abnormal);
 }
 
 TEST(NextRecord, TakesADigitAtTheEndOfTheStreamForALine)
 {
-    const std::vector<CMeasureRecord> records = Decode(Line + "\r\n5");
+    const RecordArray records = Decode(Line + "\r\n5");
     ASSERT_EQ(records.size(), 2U);
     EXPECT_EQ(records[0].m_flags, 0);
     EXPECT_EQ(records[1].m_flags, RecordFlag::Abnormal);
@@ -132,7 +131,7 @@ TEST(NextRecord, TakesADigitAtTheEndOfTheStreamForALine)
 
 TEST(NextRecord, KeepsTheAbnormalFlagForAllLinesThatFollow)
 {
-    const std::vector<CMeasureRecord> records =
+    const RecordArray records =
         Decode(Line + "\r\n" + "000000000000000000\r\n" + Line + "\r\n" + Line + "\r\n");
     ASSERT_EQ(records.size(), 4U);
     EXPECT_EQ(records[0].m_flags, 0);

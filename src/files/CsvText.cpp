@@ -1,6 +1,7 @@
 #include "files/CsvText.h"
 
 #include "base/NumberFormat.h"
+#include "files/TimeText.h"
 
 #include <cmath>
 #include <cstring>
@@ -111,20 +112,11 @@ char* CCsvText::WriteRow(char* out, const CMeasureRecord& record)
 char* CCsvText::WriteTime(char* out, const CMeasureRecord& record, char behindDate)
 {
     const CalendarFields fields = m_calendar.ToFields(record.m_time);
-    const char separator = m_options.ravelin ? ':' : '.';
-    out = WriteInt(out, fields.year);
-    *out++ = '/';
-    out = WriteTwoDigits(out, static_cast<unsigned>(fields.month));
-    *out++ = '/';
-    out = WriteTwoDigits(out, static_cast<unsigned>(fields.day));
+    out = WriteDate(out, fields);
     *out++ = behindDate;
-    out = WriteTwoDigits(out, static_cast<unsigned>(fields.hour));
-    *out++ = separator;
-    out = WriteTwoDigits(out, static_cast<unsigned>(fields.minute));
-    *out++ = separator;
-    out = WriteTwoDigits(out, static_cast<unsigned>(fields.second));
+    out = WriteTimeOfDay(out, fields, m_options.ravelin ? ':' : '.');
     *out++ = '.';
-    return WriteZeroPadded(out, record.m_msec, 3);
+    return WriteMsec(out, record.m_msec);
 }
 
 template <int Decimals>

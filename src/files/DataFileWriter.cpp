@@ -1,9 +1,9 @@
 #include "base/CalendarTime.h"
-#include "base/NumberFormat.h"
 #include "base/Version.h"
 #include "files/DataFile.h"
 #include "files/RecordText.h"
 #include "files/TextBuffer.h"
+#include "files/TimeText.h"
 #include "files/platform/SafeFile.h"
 #include "setup/tables/IntervalTable.h"
 #include "setup/tables/SamplingTable.h"
@@ -20,13 +20,11 @@ constexpr int DateVersion = 1;
 std::string DateText(CalendarSeconds seconds)
 {
     const CalendarFields fields = ToLocalFields(seconds);
-    const auto two = [](int value) {
-        char digits[2];
-        WriteTwoDigits(digits, static_cast<unsigned>(value));
-        return std::string(digits, 2);
-    };
-    return std::to_string(fields.year) + '/' + two(fields.month) + '/' + two(fields.day) + ' ' +
-           two(fields.hour) + ':' + two(fields.minute) + ':' + two(fields.second);
+    char text[64];
+    char* end = WriteDate(text, fields);
+    *end++ = ' ';
+    end = WriteTimeOfDay(end, fields, ':');
+    return {text, end};
 }
 
 /// The Configuration as lines. Texts go out as they stand, without any escaping.

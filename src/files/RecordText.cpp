@@ -3,6 +3,7 @@
 #include "base/DecimalScan.h"
 #include "base/NumberFormat.h"
 #include "files/AxisUnit.h"
+#include "files/TimeText.h"
 
 #include <cstring>
 
@@ -33,35 +34,6 @@ char* Put(char* out, const char (&text)[Size])
 {
     std::memcpy(out, text, Size - 1);
     return out + Size - 1;
-}
-
-/// "%03d" of the milliseconds, which are above 999 only where no analysis ran.
-char* PutMsec(char* out, std::uint32_t msec)
-{
-    if (msec <= 999) {
-        *out++ = static_cast<char>('0' + msec / 100);
-        return WriteTwoDigits(out, msec % 100);
-    }
-    const auto value = static_cast<std::int32_t>(msec);
-    if (value >= 0)
-        return WriteInt(out, value);
-    *out++ = '-';
-    return WriteZeroPadded(out, 0 - static_cast<std::uint32_t>(value), 2);
-}
-
-char* PutDate(char* out, const CalendarFields& fields)
-{
-    out = WriteInt(out, fields.year);
-    *out++ = '/';
-    out = WriteTwoDigits(out, static_cast<unsigned>(fields.month));
-    *out++ = '/';
-    out = WriteTwoDigits(out, static_cast<unsigned>(fields.day));
-    *out++ = ' ';
-    out = WriteTwoDigits(out, static_cast<unsigned>(fields.hour));
-    *out++ = ':';
-    out = WriteTwoDigits(out, static_cast<unsigned>(fields.minute));
-    *out++ = ':';
-    return WriteTwoDigits(out, static_cast<unsigned>(fields.second));
 }
 
 /// Steps over a fixed text; false where something else stands.
@@ -123,9 +95,12 @@ bool TakeDate(const char*& text, CalendarFields& fields)
 char* CRecordWriter::Write(char* out, const CMeasureRecord& record)
 {
     out = Put(out, BeforeDate);
-    out = PutDate(out, m_calendar.ToFields(record.m_time));
+    const CalendarFields fields = m_calendar.ToFields(record.m_time);
+    out = WriteDate(out, fields);
+    *out++ = ' ';
+    out = WriteTimeOfDay(out, fields, ':');
     out = Put(out, BeforeMsec);
-    out = PutMsec(out, record.m_msec);
+    out = WriteMsec(out, record.m_msec);
     out = Put(out, BeforeX);
     out = WriteFixed<3>(out, record.m_x * FileUnitsPerG);
     out = Put(out, BeforeY);

@@ -19,7 +19,7 @@ class CStartDateRule
 {
 public:
     CStartDateRule(const AnalysisSetting& setting, bool fromFile)
-        : m_start(setting.startMonth * 100 + setting.startDay)
+        : m_start(std::int64_t{setting.startMonth} * 100 + setting.startDay)
         , m_on(!fromFile && m_start > 100)
     {}
 
@@ -32,10 +32,11 @@ public:
             if (!m_day.Holds(time))
                 return ApplyTo(ToLocalFields(time), time);
             // A whole day moves alike only if the clock is not changed on the day it moves to.
-            const LocalDay next =
-                PlainDayOf(ApplyTo({m_day.year, m_day.month, m_day.day, 0, 0, 0}, m_day.begin));
-            m_shift = next.begin - m_day.begin;
-            if (next.begin == next.end) {
+            const CalendarSeconds moved =
+                ApplyTo({m_day.year, m_day.month, m_day.day, 0, 0, 0}, m_day.begin);
+            const LocalDay next = PlainDayOf(moved);
+            m_shift = moved - m_day.begin;
+            if (next.begin != moved || next.begin == next.end) {
                 m_day = {};
                 return ApplyTo(ToLocalFields(time), time);
             }
@@ -49,7 +50,7 @@ private:
         return fields.month * 100 + fields.day < m_start ? OneYearLater(fields) : time;
     }
 
-    int m_start; ///< month x 100 + day
+    std::int64_t m_start; ///< month x 100 + day
     bool m_on;
     LocalDay m_day;
     CalendarSeconds m_shift = 0;
@@ -138,7 +139,11 @@ void CMeasureData::Analyse(const AnalysisSetting& setting)
 
 bool CMeasureData::RepairYear()
 {
-    if (!m_yearRepairable || m_records.size() < 2)
+    const auto count = static_cast<std::ptrdiff_t>(m_records.size());
+    if (!m_yearRepairable || count < 2)
+        return false;
+    // Lines may have been dropped since the analysis.
+    if (m_firstBreak < 0 || m_firstBreak >= count)
         return false;
     const auto first = m_records.begin() + m_firstBreak;
     const auto runsBackwards = [](const CMeasureRecord& a, const CMeasureRecord& b) {
@@ -155,7 +160,7 @@ bool CMeasureData::RepairYear()
         record->SetFlags(record->m_flags & static_cast<std::uint16_t>(~RecordFlag::BehindBreak));
     }
     m_badTime = false;
-    m_firstBreak = static_cast<std::ptrdiff_t>(m_records.size());
+    m_firstBreak = count;
     LinesChanged();
     return true;
 }

@@ -30,12 +30,13 @@ CalendarSeconds Now()
 CalendarSeconds FromLocalFields(const CalendarFields& fields)
 {
     // Where a time of day comes twice, mktime prefers the offset that its last call ended with.
-    // The start of the day, asked first, makes the answer depend on the fields alone.
+    // Noon of the day before, asked first, makes the answer depend on the fields alone: it comes
+    // once, and ahead of any change of the clock that the fields may lie near.
     static std::mutex lock;
     const std::lock_guard guard(lock);
-    std::tm start = ToTm({fields.year, fields.month, fields.day, 0, 0, 0});
+    std::tm before = ToTm({fields.year, fields.month, fields.day - 1, 12, 0, 0});
     std::tm wanted = ToTm(fields);
-    (void)std::mktime(&start);
+    (void)std::mktime(&before);
     return static_cast<CalendarSeconds>(std::mktime(&wanted));
 }
 

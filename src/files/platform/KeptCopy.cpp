@@ -84,20 +84,24 @@ std::error_code GiveName(const UnnamedFile& file, const std::filesystem::path& n
     const std::string source = file.passingName.empty()
                                    ? "/proc/self/fd/" + std::to_string(file.descriptor.Get())
                                    : file.passingName;
-    if (::linkat(AT_FDCWD, source.c_str(), AT_FDCWD, name.c_str(), AT_SYMLINK_FOLLOW) != 0)
-        return LastSystemError();
-    return {};
+    if (::linkat(AT_FDCWD, source.c_str(), AT_FDCWD, name.c_str(), AT_SYMLINK_FOLLOW) == 0)
+        return {};
+    const std::error_code error = LastSystemError();
+    // The file systems of memory sticks know no second name for a file, and so no unnamed ones.
+    const bool knowsLinks =
+        error != std::errc::operation_not_permitted && error != std::errc::operation_not_supported;
+    if (knowsLinks || file.passingName.empty())
+        return error;
+    return ::renameat2(AT_FDCWD, source.c_str(), AT_FDCWD, name.c_str(), RENAME_NOREPLACE) == 0
+               ? std::error_code{}
+               : LastSystemError();
 }
 
-std::error_code GiveFreeName(const UnnamedFile& file, const std::filesystem::path& path,
-                             std::filesystem::path& kept)
+std::error_code GiveFreeName(const UnnamedFile& file, const std::filesystem::path& path)
 {
     std::error_code error;
     for (int attempt = 0; attempt < MostKeptNames; ++attempt) {
-        const std::filesystem::path name = KeptName(path, attempt);
-        error = GiveName(file, name);
-        if (!error)
-            kept = name;
+        error = GiveName(file, KeptName(path, attempt));
         if (error != std::errc::file_exists)
             break;
     }
@@ -112,11 +116,14 @@ std::error_code FillCopy(int source, int copy)
         return LastSystemError();
     if (const std::error_code error = CopyContents(source, copy))
         return error;
-    // The copy must not be readable by more people than the file. To whom it belongs is best
-    // effort: only root may give files away.
-    if (::fchmod(copy, status.st_mode & 07777) != 0)
+    // To whom the copy belongs is best effort, since only root may give files away. But it must not
+    // be readable by more people than the file: where the group can not be kept, by no group.
+    mode_t mode = status.st_mode & 07777;
+    if (::fchown(copy, status.st_uid, status.st_gid) != 0 &&
+        ::fchown(copy, static_cast<uid_t>(-1), status.st_gid) != 0)
+        mode &= ~static_cast<mode_t>(S_IRWXG);
+    if (::fchmod(copy, mode) != 0)
         return LastSystemError();
-    [[maybe_unused]] const int ignored = ::fchown(copy, status.st_uid, status.st_gid);
     return ::fsync(copy) == 0 ? std::error_code{} : LastSystemError();
 }
 
@@ -127,6 +134,17 @@ std::filesystem::path KeptName(const std::filesystem::path& path, int attempt)
     std::filesystem::path name = path;
     name += attempt == 0 ? std::string(".bak") : ".bak" + std::to_string(attempt);
     return name;
+}
+
+void DropKeptCopies(const std::filesystem::path& path)
+{
+    int count = 0;
+    struct stat status
+    {};
+    while (count < MostKeptNames && ::lstat(KeptName(path, count).c_str(), &status) == 0)
+        ++count;
+    while (count-- > 0)
+        ::unlink(KeptName(path, count).c_str());
 }
 
 std::error_code SyncFolderOf(const std::filesystem::path& path)
@@ -140,7 +158,7 @@ std::error_code SyncFolderOf(const std::filesystem::path& path)
     return {};
 }
 
-std::error_code KeepCopy(const std::filesystem::path& path, std::filesystem::path& kept)
+std::error_code KeepCopy(const std::filesystem::path& path)
 {
     const CDescriptor source(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
     if (!source.IsOpen())
@@ -150,7 +168,7 @@ std::error_code KeepCopy(const std::filesystem::path& path, std::filesystem::pat
         return error;
     std::error_code error = FillCopy(source.Get(), copy.descriptor.Get());
     if (!error)
-        error = GiveFreeName(copy, path, kept);
+        error = GiveFreeName(copy, path);
     if (!copy.passingName.empty())
         ::unlink(copy.passingName.c_str());
     if (!error)

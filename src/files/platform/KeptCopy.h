@@ -10,10 +10,13 @@ namespace skeldon {
 [[nodiscard]] std::filesystem::path KeptName(const std::filesystem::path& path, int attempt);
 
 /// Copies what `path` holds beside it, complete and on disk before the copy has its name, under
-/// the first free kept name, which `kept` takes. Permissions are those of the file, ownership where
-/// the system allows it. Fails with nothing left behind.
-[[nodiscard]] std::error_code KeepCopy(const std::filesystem::path& path,
-                                       std::filesystem::path& kept);
+/// the first free kept name. Permissions are those of the file, ownership where the system allows
+/// it. Fails with nothing left behind.
+[[nodiscard]] std::error_code KeepCopy(const std::filesystem::path& path);
+
+/// Removes the copies that are kept of `path`: that of this save and those of saves that failed
+/// before it. From the last name down, so that an interruption leaves no gap between the names.
+void DropKeptCopies(const std::filesystem::path& path);
 
 /// Brings the entries of the folder that holds `path` to disk.
 [[nodiscard]] std::error_code SyncFolderOf(const std::filesystem::path& path);

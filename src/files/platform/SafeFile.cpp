@@ -30,7 +30,7 @@ std::error_code CSafeFile::Open(const std::filesystem::path& path)
 
 std::error_code CSafeFile::Keep()
 {
-    if (const std::error_code error = KeepCopy(m_path, m_kept))
+    if (const std::error_code error = KeepCopy(m_path))
         return error;
     return ::ftruncate(m_descriptor.Get(), 0) == 0 ? std::error_code{} : LastSystemError();
 }
@@ -58,11 +58,9 @@ std::error_code CSafeFile::Commit()
         return error;
     if (const std::error_code error = SyncFolderOf(m_path))
         return error;
-    // The new contents are safe now, so neither this save's copy nor that of one that failed
-    // before is needed; that they can not be removed is no failure of the save.
-    if (!m_kept.empty())
-        ::unlink(m_kept.c_str());
-    ::unlink(KeptName(m_path, 0).c_str());
+    // The new contents are safe now, so neither this save's copy nor those of saves that failed
+    // before are needed; that they can not be removed is no failure of the save.
+    DropKeptCopies(m_path);
     return {};
 }
 

@@ -33,7 +33,6 @@ private:
     CDescriptor m_descriptor;
     bool m_isRegular = false;
     std::filesystem::path m_path;
-    std::filesystem::path m_kept; ///< where the earlier contents are; empty if there were none
 };
 
 } // namespace skeldon

@@ -1,5 +1,6 @@
 #include "recorder/RecorderLink.h"
 
+#include "recorder/ConditionCommands.h"
 #include "recorder/StatusReport.h"
 
 #include <array>
@@ -35,6 +36,57 @@ bool CRecorderLink::ReadStatus()
     ClosePort();
     m_rangeChanged = false;
     return true;
+}
+
+bool CRecorderLink::ReadStatus(CMeasureCondition& condition)
+{
+    if (!ReadStatus())
+        return false;
+    TakeConditions(*this, condition);
+    return true;
+}
+
+bool CRecorderLink::WriteConditions(const CMeasureCondition& condition)
+{
+    if (m_busy)
+        return false;
+    for (const std::string& command : ConditionCommands(*this, condition)) {
+        if (!SendOrClose(command))
+            return false;
+    }
+    ClosePort();
+    return true;
+}
+
+bool CRecorderLink::StartMeasuring(CMeasureCondition condition, bool setClock)
+{
+    if (!WriteConditions(condition))
+        return false;
+    if (setClock && !SendOrClose(ClockCommand(Clock().Now())))
+        return false;
+    if (!SendOrClose("t"))
+        return false;
+    ClosePort();
+    return true;
+}
+
+bool CRecorderLink::StartReserved(CMeasureCondition condition, CalendarSeconds reserveTime,
+                                  bool setClock)
+{
+    if (!StartMeasuring(std::move(condition), setClock) ||
+        !SendOrClose(ReservationCommand(reserveTime)))
+        return false;
+    ClosePort();
+    return true;
+}
+
+/// Here a reply that silence cut short is a failure too.
+bool CRecorderLink::SendOrClose(std::string_view text)
+{
+    if (SendCommand(text) && !m_timedOut)
+        return true;
+    ClosePort();
+    return false;
 }
 
 bool CRecorderLink::Calibrate()

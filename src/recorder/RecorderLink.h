@@ -98,6 +98,7 @@ public:
 private:
     using ThreadWork = void (CRecorderLink::*)();
 
+    /// One command of several; a failure closes the port.
     bool SendOrClose(std::string_view text);
     bool StartThread(ThreadWork work);
     void RunThread(ThreadWork work);

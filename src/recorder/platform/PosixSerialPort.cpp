@@ -6,10 +6,13 @@
 #include <chrono>
 
 #include <fcntl.h>
+#include <linux/major.h>
 #include <linux/serial.h>
 #include <poll.h>
 #include <sys/file.h>
 #include <sys/ioctl.h>
+#include <sys/stat.h>
+#include <sys/sysmacros.h>
 #include <unistd.h>
 
 namespace skeldon {
@@ -49,6 +52,18 @@ int WaitFor(int descriptor, short events, int milliseconds)
     }
 }
 
+/// A pseudo terminal stays as long as its other side: one that was marked exclusive by a process
+/// that was killed could not be opened again.
+bool MayBeMarkedExclusive(int descriptor)
+{
+    struct stat state
+    {};
+    if (::fstat(descriptor, &state) != 0)
+        return false;
+    const unsigned kind = major(state.st_rdev);
+    return kind < UNIX98_PTY_SLAVE_MAJOR || kind >= UNIX98_PTY_SLAVE_MAJOR + UNIX98_PTY_MAJOR_COUNT;
+}
+
 bool WouldBlock()
 {
     return errno == EAGAIN || errno == EWOULDBLOCK;
@@ -75,7 +90,8 @@ std::unique_ptr<CSerialPort> CPosixSerialPort::Open(const std::string& path, std
         return nullptr;
     }
     std::unique_ptr<CPosixSerialPort> port(new CPosixSerialPort(descriptor));
-    (void)::ioctl(descriptor, TIOCEXCL);
+    if (MayBeMarkedExclusive(descriptor))
+        (void)::ioctl(descriptor, TIOCEXCL);
     (void)SetUpTerminal(descriptor);
     port->m_errorCounts = port->CountErrors();
     error.clear();

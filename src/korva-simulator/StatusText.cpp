@@ -1,0 +1,78 @@
+#include "korva-simulator/StatusText.h"
+
+#include <array>
+#include <cstdio>
+
+namespace skeldon {
+
+namespace {
+
+constexpr int QmType = 50;
+
+class CReport
+{
+public:
+    void Add(const char* key, const std::string& value)
+    {
+        m_text += key;
+        m_text += '=';
+        m_text += value;
+        m_text += "\r\n";
+    }
+    void Add(const char* key, int value) { Add(key, std::to_string(value)); }
+
+    std::string m_text = "\r\n";
+};
+
+std::string ThresholdText(int counts)
+{
+    return std::to_string(counts / 10) + "." + std::to_string(counts % 10) + "G";
+}
+
+std::string DateText(RecorderSeconds seconds)
+{
+    const CalendarFields fields = ToRecorderFields(seconds);
+    std::array<char, 64> text{};
+    (void)std::snprintf(text.data(), text.size(), "%04d/%02d/%02d %02d:%02d:%02d", fields.year,
+                        fields.month, fields.day, fields.hour, fields.minute, fields.second);
+    return text.data();
+}
+
+} // namespace
+
+std::string StatusText(const RecorderState& state)
+{
+    const RecorderConditions& conditions = state.conditions;
+    const bool hasType = state.type != OldestType;
+    CReport report;
+    report.Add("@KORVA3 Ver", "3.02");
+    const std::string family = state.type == QmType ? "@korvaQM" : "@korvaPL";
+    report.Add((family + (state.alpha ? "_A RLS" : " RLS")).c_str(), state.alpha ? "2.10" : "1.40");
+    if (hasType)
+        report.Add("@Type", state.type);
+    report.Add("@Count",
+               std::to_string(state.memory.Count()) + " " + std::to_string(state.capacity));
+    report.Add("@Interval", std::string(1, conditions.sampling));
+    report.Add("@Record", std::string(1, conditions.interval));
+    report.Add(hasType ? "@detect" : "@Detect", ThresholdText(conditions.threshold));
+    report.Add("@Ondo+offset", "12 0 3 128");
+    report.Add("@1G", "64 64 63");
+    report.Add("@P", "512 510 514");
+    report.Add("@ADJ h", state.alpha ? std::to_string(conditions.hazard) + " 0 " +
+                                           (conditions.endless ? "1" : "0")
+                                     : "130 131 129");
+    report.Add("@ADJ L", "126 125 127");
+    report.Add("@Year", DateText(state.begun));
+    report.Add("@My_ID", conditions.hostNumber);
+    // A recorder with its buzzer on says 0.
+    if (state.hasBuzzerKey)
+        report.Add("@BZZ", conditions.buzzer ? 0 : 1);
+    report.Add("@Warn", conditions.warn);
+    if (hasType)
+        report.Add("@wait", conditions.startOption);
+    report.Add("@Lag", 0);
+    report.Add("@start", 0);
+    return report.m_text;
+}
+
+} // namespace skeldon

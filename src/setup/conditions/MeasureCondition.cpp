@@ -1,5 +1,6 @@
 #include "setup/conditions/MeasureCondition.h"
 
+#include "setup/conditions/ProfileFile.h"
 #include "setup/conditions/ProfileFolders.h"
 #include "setup/tables/GScale.h"
 #include "setup/tables/IntervalTable.h"
@@ -102,6 +103,18 @@ bool CMeasureCondition::HazardUp()
 bool CMeasureCondition::HazardDown()
 {
     return MoveDown(Hazard);
+}
+
+std::error_code CMeasureCondition::Load(const std::filesystem::path& path)
+{
+    return LoadProfile(path, *this);
+}
+
+std::error_code CMeasureCondition::Save()
+{
+    const ProfileFolders folders = FindProfileFolders();
+    MakeFolders(folders);
+    return SaveProfile(*this, folders.profiles);
 }
 
 LevelFit CMeasureCondition::CheckThreshold(const RecorderFacts& recorder, int& value) const

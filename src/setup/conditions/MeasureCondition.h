@@ -61,6 +61,14 @@ public:
     bool HazardUp();
     bool HazardDown();
 
+    // --- on disk ---
+
+    /// As `LoadProfile`.
+    [[nodiscard]] std::error_code Load(const std::filesystem::path& path);
+    /// As `SaveProfile`, always into `ProfileDirectory`, which is made at need. An entry that came
+    /// from a template becomes a profile by it.
+    [[nodiscard]] std::error_code Save();
+
     // --- against a recorder ---
 
     /// `value` is what the recorder would take: the threshold itself, the nearest lower level of

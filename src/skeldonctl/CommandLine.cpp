@@ -1,0 +1,214 @@
+#include "skeldonctl/CommandLine.h"
+
+#include "base/Version.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <map>
+#include <sstream>
+
+namespace skeldon {
+
+namespace {
+
+constexpr int LongestOnlineSeconds = 4999;
+
+/// The options of all commands; the parser writes into it.
+struct Options
+{
+    StatusCommand status;
+    GetCommand get;
+    OnlineCommand online;
+    StartCommand start;
+    InfoCommand info;
+    ConvertCommand convert;
+    CsvCommand csv;
+    std::string at;
+    bool twoFields = false;
+    bool noResultant = false;
+    bool noTemperature = false;
+    bool noHumidity = false;
+};
+
+CLI::App* AddCommand(CLI::App& app, const std::string& name, const std::string& description)
+{
+    CLI::App* const command = app.add_subcommand(name, description);
+    command->set_version_flag("--version", std::string("skeldonctl ") + ProgramVersion,
+                              "Print the version and exit");
+    return command;
+}
+
+void AddPort(CLI::App& command, PortOption& port)
+{
+    command
+        .add_option("--port", port,
+                    "Port of the recorder; like the environment variable SKELDON_PORT")
+        ->type_name("PATH")
+        ->check([](const std::string& text) {
+            return text.empty() ? std::string("the path is empty") : std::string();
+        });
+}
+
+void AddPath(CLI::App& command, const std::string& name, std::filesystem::path& path,
+             const std::string& type, const std::string& description, bool isRequired)
+{
+    command
+        .add_option_function<std::string>(
+            name, [&path](const std::string& text) { path = text; }, description)
+        ->type_name(type)
+        ->required(isRequired)
+        ->check([](const std::string& text) {
+            return text.empty() ? std::string("the path is empty") : std::string();
+        });
+}
+
+void AddJson(CLI::App& command, bool& json, bool* records)
+{
+    CLI::Option* const option = command.add_flag("--json", json, "Print one JSON object");
+    if (records != nullptr)
+        command.add_flag("--records", *records, "With all lines in the JSON object")->needs(option);
+}
+
+void AddRecorderCommands(CLI::App& app, Options& options)
+{
+    CLI::App* const status = AddCommand(app, "status", "Ask the recorder for its status");
+    AddJson(*status, options.status.json, nullptr);
+    AddPort(*status, options.status.port);
+
+    CLI::App* const get = AddCommand(app, "get", "Read the recorder's memory");
+    AddPath(*get, "-o,--output", options.get.dataFile, "FILE.skd", "Save as a data file", false);
+    AddPath(*get, "--csv", options.get.csvFile, "FILE.csv", "Export as CSV", false);
+    AddJson(*get, options.get.json, &options.get.withRecords);
+    AddPort(*get, options.get.port);
+
+    CLI::App* const online = AddCommand(app, "online", "Record a live stream of the axes");
+    online->add_option("--seconds", options.online.seconds, "How long, 1 to 4999 seconds")
+        ->type_name("N")
+        ->required()
+        ->check(CLI::Range(1, LongestOnlineSeconds));
+    AddPath(*online, "-o,--output", options.online.dataFile, "FILE.skd", "Save as a data file",
+            false);
+    AddJson(*online, options.online.json, &options.online.withRecords);
+    AddPort(*online, options.online.port);
+
+    CLI::App* const start =
+        AddCommand(app, "start", "Give the recorder the conditions of a profile and start it");
+    AddPath(*start, "PROFILE", options.start.profile, "", "Profile file (skp)", true);
+    start->add_flag("--clear", options.start.clear,
+                    "Clear the recorder's data and set its clock first");
+    start->add_option("--at", options.start.at, "Start at this local time instead of at once")
+        ->type_name("\"YYYY-MM-DD HH:MM\"");
+    start->add_flag("--fit", options.start.fit,
+                    "Take the offered value where one does not fit the recorder");
+    AddPort(*start, options.start.port);
+}
+
+void AddFileCommands(CLI::App& app, Options& options)
+{
+    CLI::App* const info = AddCommand(app, "info", "Tell what a data file holds");
+    AddPath(*info, "FILE", options.info.file, "", "Data file (skd, sks)", true);
+    AddJson(*info, options.info.json, &options.info.withRecords);
+
+    CLI::App* const convert =
+        AddCommand(app, "convert", "Write a data file anew, in the present format");
+    AddPath(*convert, "FILE", options.convert.file, "", "Data file (skd, sks)", true);
+    AddPath(*convert, "OUT", options.convert.output, "", "Data file to write (skd)", true);
+
+    CLI::App* const csv = AddCommand(app, "csv", "Export a data file as CSV");
+    AddPath(*csv, "FILE", options.csv.file, "", "Data file (skd, sks)", true);
+    AddPath(*csv, "-o,--output", options.csv.output, "OUT.csv",
+            "CSV file to write; standard output without it", false);
+    csv->add_option("--unit", options.csv.options.unit, "Unit of the axes: g, ms2 or gal")
+        ->type_name("UNIT")
+        ->transform(CLI::CheckedTransformer(
+            std::map<std::string, CsvUnit>{
+                {"g", CsvUnit::G}, {"ms2", CsvUnit::MetresPerSecondSquared}, {"gal", CsvUnit::Gal}},
+            CLI::ignore_case));
+    csv->add_flag("--ravelin", options.csv.options.ravelin,
+                  "The form of the older tools; no other option then counts");
+    csv->add_flag("--two-fields", options.twoFields, "Date and time in a field each");
+    csv->add_flag("--no-resultant", options.noResultant, "Without the resultant");
+    csv->add_flag("--no-temperature", options.noTemperature, "Without the temperature");
+    csv->add_flag("--no-humidity", options.noHumidity, "Without the humidity");
+}
+
+/// The command that was given; the line has been parsed.
+std::variant<Command, Refusal> Chosen(const CLI::App& app, Options& options)
+{
+    const std::string name = app.get_subcommands().front()->get_name();
+    if (name == "status")
+        return options.status;
+    if (name == "get")
+        return options.get;
+    if (name == "online")
+        return options.online;
+    if (name == "info")
+        return options.info;
+    if (name == "convert")
+        return options.convert;
+    if (name == "start") {
+        if (!options.at.empty()) {
+            options.start.at = ParseMinute(options.at);
+            if (!options.start.at)
+                return Refusal{ExitStatus::Usage,
+                               "--at: \"" + options.at + "\" is no time \"YYYY-MM-DD HH:MM\"\n"};
+        }
+        return options.start;
+    }
+    options.csv.options.dateTime = !options.twoFields;
+    options.csv.options.accel = !options.noResultant;
+    options.csv.options.temperature = !options.noTemperature;
+    options.csv.options.humidity = !options.noHumidity;
+    return options.csv;
+}
+
+} // namespace
+
+std::variant<Command, Refusal> ParseCommandLine(const std::vector<std::string>& arguments)
+{
+    Options options;
+    CLI::App app("Work with KORVA shock and acceleration recorders and their data files.",
+                 "skeldonctl");
+    app.set_version_flag("--version", std::string("skeldonctl ") + ProgramVersion,
+                         "Print the version and exit");
+    app.require_subcommand(1);
+    app.footer("\"skeldonctl COMMAND --help\" tells the options of a command; skeldonctl(1) tells "
+               "more.");
+    AddRecorderCommands(app, options);
+    AddFileCommands(app, options);
+    try {
+        std::vector<std::string> reversed(arguments.rbegin(), arguments.rend());
+        app.parse(std::move(reversed));
+    } catch (const CLI::ParseError& error) {
+        std::ostringstream out;
+        std::ostringstream err;
+        const bool isFine = app.exit(error, out, err) == 0;
+        return Refusal{isFine ? ExitStatus::Done : ExitStatus::Usage, out.str() + err.str()};
+    }
+    return Chosen(app, options);
+}
+
+std::optional<CalendarFields> ParseMinute(const std::string& text)
+{
+    constexpr std::string_view Form = "dddd-dd-dd dd:dd";
+    const bool isFormed = std::ranges::equal(text, Form, [](char given, char wanted) {
+        return wanted == 'd' ? given >= '0' && given <= '9' : given == wanted;
+    });
+    if (!isFormed)
+        return std::nullopt;
+    const auto number = [&](std::size_t position, std::size_t digits) {
+        return std::stoi(text.substr(position, digits));
+    };
+    const CalendarFields fields{.year = number(0, 4),
+                                .month = number(5, 2),
+                                .day = number(8, 2),
+                                .hour = number(11, 2),
+                                .minute = number(14, 2),
+                                .second = 0};
+    // What the calendar would roll over, such as February 30th, names no date.
+    if (ToLocalFields(FromLocalFields(fields)) != fields)
+        return std::nullopt;
+    return fields;
+}
+
+} // namespace skeldon

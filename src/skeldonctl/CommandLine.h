@@ -1,0 +1,88 @@
+#pragma once
+
+#include "base/CalendarTime.h"
+#include "files/CsvText.h"
+#include "skeldonctl/ExitStatus.h"
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace skeldon {
+
+/// Path of the port; empty for the cable that is found.
+using PortOption = std::string;
+
+struct StatusCommand
+{
+    PortOption port;
+    bool json = false;
+};
+
+struct GetCommand
+{
+    PortOption port;
+    std::filesystem::path dataFile; ///< empty: not written
+    std::filesystem::path csvFile;  ///< empty: not written
+    bool json = false;
+    bool withRecords = false;
+};
+
+struct OnlineCommand
+{
+    PortOption port;
+    int seconds = 0; ///< 1..4999
+    std::filesystem::path dataFile;
+    bool json = false;
+    bool withRecords = false;
+};
+
+struct StartCommand
+{
+    PortOption port;
+    std::filesystem::path profile;
+    std::optional<CalendarFields> at; ///< a reservation; local time
+    bool clear = false;               ///< the recorder's data and clock are set anew
+    bool fit = false;                 ///< values that do not fit the recorder are changed
+};
+
+struct InfoCommand
+{
+    std::filesystem::path file;
+    bool json = false;
+    bool withRecords = false;
+};
+
+struct ConvertCommand
+{
+    std::filesystem::path file;
+    std::filesystem::path output;
+};
+
+struct CsvCommand
+{
+    std::filesystem::path file;
+    std::filesystem::path output; ///< empty: standard output
+    CsvOptions options;
+};
+
+using Command = std::variant<StatusCommand, GetCommand, OnlineCommand, StartCommand, InfoCommand,
+                             ConvertCommand, CsvCommand>;
+
+/// Why there is no command: a text that was asked for, or what is wrong with the line.
+struct Refusal
+{
+    ExitStatus status = ExitStatus::Done;
+    std::string text; ///< for standard output where `status` is `Done`, else for standard error
+};
+
+/// Reads the arguments behind the program's name.
+[[nodiscard]] std::variant<Command, Refusal>
+ParseCommandLine(const std::vector<std::string>& arguments);
+
+/// Reads "YYYY-MM-DD HH:MM"; nothing where the text is not of that form or names no date or time.
+[[nodiscard]] std::optional<CalendarFields> ParseMinute(const std::string& text);
+
+} // namespace skeldon

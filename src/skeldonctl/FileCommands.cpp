@@ -1,0 +1,69 @@
+#include "skeldonctl/FileCommands.h"
+
+#include "files/CsvFile.h"
+#include "files/DataFile.h"
+#include "skeldonctl/DataSetJson.h"
+#include "skeldonctl/DataSetText.h"
+#include "skeldonctl/Messages.h"
+#include "skeldonctl/OutputFiles.h"
+#include "skeldonctl/platform/Streams.h"
+
+namespace skeldon {
+
+namespace {
+
+/// Reads and analyses a data file; tells what is wrong with it.
+ExitStatus Load(const std::filesystem::path& path, CMeasureData& data)
+{
+    const DataFileResult result = ReadFile(data, path);
+    if (!result)
+        return FailOn(path, DescribeDataFileError(result));
+    data.Analyse({.startMonth = 0, .startDay = 0, .now = Now()});
+    data.StoreSignature();
+    return ExitStatus::Done;
+}
+
+bool IsSameFile(const std::filesystem::path& one, const std::filesystem::path& other)
+{
+    std::error_code ignored;
+    return std::filesystem::equivalent(one, other, ignored);
+}
+
+} // namespace
+
+ExitStatus Run(const InfoCommand& command)
+{
+    CMeasureData data;
+    if (const ExitStatus loaded = Load(command.file, data); loaded != ExitStatus::Done)
+        return loaded;
+    CStandardOutput output;
+    if (!command.json)
+        return StandardOutputDone(output.Write(DataSetText(data)));
+    return StandardOutputDone(WriteDataSetJson(
+        data, {.yearRepaired = false, .expected = {}, .withRecords = command.withRecords}, output));
+}
+
+ExitStatus Run(const ConvertCommand& command)
+{
+    if (IsSameFile(command.file, TargetOf(command.output, "skd")))
+        return FailOn(command.output, "is the input itself");
+    CMeasureData data;
+    if (const ExitStatus loaded = Load(command.file, data); loaded != ExitStatus::Done)
+        return loaded;
+    return SaveDataFile(data, command.output);
+}
+
+ExitStatus Run(const CsvCommand& command)
+{
+    if (!command.output.empty() && IsSameFile(command.file, TargetOf(command.output, "csv")))
+        return FailOn(command.output, "is the input itself");
+    CMeasureData data;
+    if (const ExitStatus loaded = Load(command.file, data); loaded != ExitStatus::Done)
+        return loaded;
+    if (!command.output.empty())
+        return SaveCsvFile(data, command.output, command.options);
+    CStandardOutput output;
+    return StandardOutputDone(FormatCsv(data, command.options, {}, {}, output));
+}
+
+} // namespace skeldon

@@ -2,6 +2,8 @@
 
 #include "base/TextScan.h"
 
+#include <algorithm>
+
 namespace skeldon {
 
 namespace {
@@ -13,6 +15,16 @@ bool IsSeparator(char c)
     return Separators.find(c) != std::string_view::npos;
 }
 
+/// Length of the root that `path` begins with, "/" or "C:\\"; 0 without one.
+std::size_t RootLength(std::string_view path)
+{
+    if (!path.empty() && IsSeparator(path[0]))
+        return 1;
+    const bool hasDrive = path.size() >= 3 && path[1] == ':' && ToLowerAscii(path[0]) >= 'a' &&
+                          ToLowerAscii(path[0]) <= 'z';
+    return hasDrive && IsSeparator(path[2]) ? 3 : 0;
+}
+
 } // namespace
 
 std::string_view DirectoryOf(std::string_view path)
@@ -20,7 +32,7 @@ std::string_view DirectoryOf(std::string_view path)
     const std::size_t at = path.find_last_of(Separators);
     if (at == std::string_view::npos)
         return {};
-    return path.substr(0, at == 0 ? 1 : at);
+    return path.substr(0, std::max(at, RootLength(path)));
 }
 
 std::string_view FileNameOf(std::string_view path)
@@ -44,7 +56,7 @@ std::string_view ExtensionOf(std::string_view path)
 
 std::string_view WithoutTrailingSeparator(std::string_view path)
 {
-    if (path.size() > 1 && IsSeparator(path.back()))
+    if (path.size() > RootLength(path) && IsSeparator(path.back()))
         path.remove_suffix(1);
     return path;
 }

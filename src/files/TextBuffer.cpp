@@ -1,5 +1,7 @@
 #include "files/TextBuffer.h"
 
+#include <new>
+
 namespace skeldon {
 
 CTextBuffer::CTextBuffer(COutput& output)
@@ -34,9 +36,10 @@ std::error_code CTextBuffer::Finish()
 
 void CTextBuffer::Flush()
 {
-    if (!m_thread.joinable()) {
-        m_buffers[1] = std::make_unique_for_overwrite<char[]>(Capacity);
-        m_thread = std::thread(&CTextBuffer::WriteInBackground, this);
+    if (!m_thread.joinable() && !StartThread()) {
+        Write({m_begin, static_cast<std::size_t>(m_end - m_begin)});
+        m_end = m_begin;
+        return;
     }
     {
         std::unique_lock lock(m_lock);
@@ -47,6 +50,21 @@ void CTextBuffer::Flush()
     m_filled = 1 - m_filled;
     m_begin = m_buffers[m_filled].get();
     m_end = m_begin;
+}
+
+/// False where the system has no thread or memory left: the pieces are then written in turn.
+bool CTextBuffer::StartThread()
+{
+    try {
+        if (m_buffers[1] == nullptr)
+            m_buffers[1] = std::make_unique_for_overwrite<char[]>(Capacity);
+        m_thread = std::thread(&CTextBuffer::WriteInBackground, this);
+        return true;
+    } catch (const std::system_error&) {
+        return false;
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
 }
 
 void CTextBuffer::WriteInBackground()

@@ -46,6 +46,7 @@ private:
     static constexpr std::size_t Capacity = 256 * 1024;
 
     void Flush();
+    [[nodiscard]] bool StartThread();
     void WriteInBackground();
     void Write(std::string_view text);
     void Stop();

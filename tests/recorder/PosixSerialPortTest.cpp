@@ -37,8 +37,18 @@ public:
         EXPECT_EQ(::grantpt(m_master), 0);
         EXPECT_EQ(::unlockpt(m_master), 0);
         m_path = ::ptsname(m_master);
+        // With the terminal never quite closed, reading the other side does not fail between two
+        // openings.
+        m_keeper = ::open(m_path.c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC);
+        EXPECT_GE(m_keeper, 0);
     }
-    ~CPseudoTerminal() { Hangup(); }
+    ~CPseudoTerminal()
+    {
+        Hangup();
+        ::close(m_keeper);
+    }
+    CPseudoTerminal(const CPseudoTerminal&) = delete;
+    CPseudoTerminal& operator=(const CPseudoTerminal&) = delete;
 
     void Hangup()
     {
@@ -68,6 +78,7 @@ public:
     }
 
     int m_master;
+    int m_keeper = -1;
     std::string m_path;
 };
 

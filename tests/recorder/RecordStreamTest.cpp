@@ -81,7 +81,9 @@ TEST(ReadLine, EndsTheStreamAtTheMark)
 
 TEST(ReadLine, DropsEverythingElseWithoutATrace)
 {
-    const std::string noisy = std::string(" 52AD\0B7g", 9) + "abcdef A00102\xFF" + "0304z05 \r\n";
+    using namespace std::string_literals;
+    const std::string noisy = " 52AD\0B7gabcdef A00102\xFF"
+                              "0304z05 \r\n"s;
     const RecordArray records = Decode(noisy);
     ASSERT_EQ(records.size(), 1U);
     EXPECT_EQ(records[0].m_checkKey, Decode(Line + "\r\n")[0].m_checkKey);

@@ -24,6 +24,7 @@ if(SKELDON_SANITIZE)
 endif()
 if(SKELDON_FUZZ)
   target_compile_options(skeldon_options INTERFACE -fsanitize=fuzzer-no-link)
+  target_link_options(skeldon_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
 # skeldon_room(<target> [ROOMS other targets] [LIBS private libraries]): all sources of the calling

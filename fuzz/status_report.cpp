@@ -38,12 +38,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t cou
     const std::string reply(reinterpret_cast<const char*>(bytes), count);
     fixture.m_recorder.On("p", reply + '#');
     CMeasureCondition condition;
-    if (!fixture.m_link.ReadStatus(&condition))
+    if (!fixture.m_link.ReadStatus(condition))
         return 0;
     CheckFields(fixture.m_link);
     FUZZ_CHECK(condition.GetSampling() == fixture.m_link.m_samplingRow);
     const RecorderStatus first = fixture.m_link.Status();
-    FUZZ_CHECK(fixture.m_link.ReadStatus());
+    FUZZ_CHECK(fixture.m_link.ReadStatus(condition));
     const RecorderStatus& second = fixture.m_link.Status();
     FUZZ_CHECK(first.m_count == second.m_count && first.m_type == second.m_type &&
                first.m_threshold == second.m_threshold && first.m_hazard == second.m_hazard &&

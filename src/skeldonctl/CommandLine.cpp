@@ -96,7 +96,7 @@ void AddRecorderCommands(CLI::App& app, Options& options)
     AddPath(*start, "PROFILE", options.start.profile, "", "Profile file (skp)", true);
     start->add_flag("--clear", options.start.clear,
                     "Clear the recorder's data and set its clock first");
-    start->add_option("--at", options.start.at, "Start at this local time instead of at once")
+    start->add_option("--at", options.at, "Start at this local time instead of at once")
         ->type_name("\"YYYY-MM-DD HH:MM\"");
     start->add_flag("--fit", options.start.fit,
                     "Take the offered value where one does not fit the recorder");

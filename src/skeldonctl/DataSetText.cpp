@@ -51,12 +51,13 @@ std::string ErrorWords(const CMeasureData& data)
     return words.empty() ? "none" : words;
 }
 
-std::string TemperatureWords(const CMeasureData& data)
+/// "-6.1 to 22.2 C"
+std::string RangeWords(const CMeasureData& data, double CMeasureRecord::*value,
+                       std::string_view unit)
 {
-    const auto [lowest, highest] =
-        std::ranges::minmax(data.Records(), {}, &CMeasureRecord::m_temperature);
-    return FixedWords(lowest.m_temperature, 1) + " to " + FixedWords(highest.m_temperature, 1) +
-           " C";
+    const auto [lowest, highest] = std::ranges::minmax(data.Records(), {}, value);
+    return FixedWords(lowest.*value, 1) + " to " + FixedWords(highest.*value, 1) + ' ' +
+           std::string(unit);
 }
 
 void AddConditions(CTextTable& table, const CMeasureData& data)
@@ -80,8 +81,9 @@ void AddLines(CTextTable& table, const CMeasureData& data)
     table.Add("Last line", TimeWords(data.Records().back()));
     table.Add("Largest", FixedWords(data.m_maxAbs, 2) + " G");
     if (data.m_hasTemperature)
-        table.Add("Temperature", TemperatureWords(data));
-    table.Add("Humidity", YesNo(data.m_hasHumidity));
+        table.Add("Temperature", RangeWords(data, &CMeasureRecord::m_temperature, "C"));
+    if (data.m_hasHumidity)
+        table.Add("Humidity", RangeWords(data, &CMeasureRecord::m_humidity, "%"));
     table.Add("Marked", std::to_string(data.m_marks.size()));
     table.Add("Extracted", std::to_string(data.m_extractCount));
     table.Add("Abnormal", std::to_string(data.m_abnormalCount));

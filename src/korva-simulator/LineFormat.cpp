@@ -6,6 +6,9 @@ namespace skeldon {
 
 namespace {
 
+constexpr std::string_view Digits = "0123456789ABCDEF";
+constexpr std::size_t StampDigits = 8;
+
 /// Bytes of the longest layout.
 using LineBytes = std::array<unsigned, 10>;
 
@@ -86,7 +89,6 @@ void AppendLine(std::string& text, LineKind kind, const Measurement& measurement
         bytes[8] = static_cast<unsigned>(hundredths);
         bytes[9] = Byte(measurement.humidity);
     }
-    constexpr char Digits[] = "0123456789ABCDEF";
     std::array<char, 20> digits{};
     const std::size_t count = LineDigits(kind);
     for (std::size_t i = 0; i < count; i += 2) {
@@ -94,6 +96,46 @@ void AppendLine(std::string& text, LineKind kind, const Measurement& measurement
         digits[i + 1] = Digits[bytes[i / 2] & 15U];
     }
     text.append(digits.data(), count);
+}
+
+std::optional<CalendarFields> LineTime(std::string_view digits)
+{
+    if (digits.size() < StampDigits)
+        return std::nullopt;
+    unsigned stamp = 0;
+    for (const char digit : digits.substr(0, StampDigits)) {
+        const std::size_t value = Digits.find(digit);
+        if (value == std::string_view::npos)
+            return std::nullopt;
+        stamp = stamp << 4U | static_cast<unsigned>(value);
+    }
+    const auto field = [&](unsigned shift, unsigned bits) {
+        return static_cast<int>(stamp >> shift & ((1U << bits) - 1));
+    };
+    const CalendarFields fields{.year = 0,
+                                .month = field(28, 4),
+                                .day = field(21, 5),
+                                .hour = field(16, 5),
+                                .minute = field(10, 6),
+                                .second = field(4, 6)};
+    const bool isDate = fields.month >= 1 && fields.month <= 12 && fields.day >= 1;
+    if (!isDate || fields.hour > 23 || fields.minute > 59 || fields.second > 59)
+        return std::nullopt;
+    return fields;
+}
+
+void ShiftLine(std::string& digits, int year, RecorderSeconds seconds)
+{
+    std::optional<CalendarFields> fields = LineTime(digits);
+    if (!fields)
+        return;
+    fields->year = year;
+    LineBytes bytes{};
+    PackTime(bytes, FromRecorderFields(*fields) + seconds, 0);
+    const char low = digits[StampDigits - 1];
+    for (std::size_t i = 0; i < StampDigits; ++i)
+        digits[i] = Digits[bytes[i / 2] >> (i % 2 == 0 ? 4U : 0U) & 15U];
+    digits[StampDigits - 1] = low;
 }
 
 } // namespace skeldon

@@ -4,7 +4,9 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
+#include <string_view>
 
 namespace skeldon {
 
@@ -33,5 +35,11 @@ enum class LineKind
 [[nodiscard]] std::size_t LineDigits(LineKind kind);
 /// Appends the digits of `measurement`, without an end of line.
 void AppendLine(std::string& text, LineKind kind, const Measurement& measurement);
+
+/// Moves the time stamp at the head of a line by whole seconds. `year` is the one that the line
+/// belongs to. A line that is too short for a time stamp, or has a date that there is not, stays.
+void ShiftLine(std::string& digits, int year, RecorderSeconds seconds);
+/// The date and time of a line, 0 for its year; nothing where it holds none that there is.
+[[nodiscard]] std::optional<CalendarFields> LineTime(std::string_view digits);
 
 } // namespace skeldon

@@ -1,4 +1,5 @@
 #include "korva-simulator/CommandLine.h"
+#include "korva-simulator/platform/RecorderSetup.h"
 #include "korva-simulator/platform/SimulatorLoop.h"
 
 #include <exception>
@@ -8,19 +9,27 @@ using namespace skeldon;
 
 namespace {
 
-int Simulate(SimulatorOptions options)
+constexpr int Failed = 1;
+
+void Complain(const std::string& line)
 {
-    FillMemory(options.recorder, options.lines);
-    CSimulatedRecorder recorder(std::move(options.recorder));
-    CSimulatorLoop loop(recorder, options.link,
-                        [](const std::string& line) { std::cout << line << std::endl; });
-    std::error_code error = loop.Plug();
-    if (!error)
-        error = loop.Run();
-    if (!error)
-        return 0;
-    std::cerr << "korva-simulator: " << error.message() << '\n';
-    return 1;
+    std::cerr << "korva-simulator: " << line << '\n';
+}
+
+int Simulate(const SimulatorOptions& options)
+{
+    auto state = SetUpRecorder(options);
+    if (const auto* const reason = std::get_if<std::string>(&state)) {
+        Complain(*reason);
+        return Failed;
+    }
+    CSimulatedRecorder recorder(std::get<RecorderState>(std::move(state)));
+    for (const Fault& fault : options.faults)
+        recorder.m_faults.Add(fault);
+    CSimulatorLoop loop(
+        recorder, options, [](const std::string& line) { std::cout << line << std::endl; },
+        &Complain);
+    return loop.Run();
 }
 
 } // namespace
@@ -28,14 +37,15 @@ int Simulate(SimulatorOptions options)
 int main(int argc, char** argv)
 {
     try {
-        auto parsed = ParseSimulatorLine({argv + 1, argv + argc});
+        const auto parsed = ParseSimulatorLine({argv + 1, argv + argc});
         if (const auto* const end = std::get_if<EarlyEnd>(&parsed)) {
             (end->status == 0 ? std::cout : std::cerr) << end->text;
             return end->status;
         }
-        return Simulate(std::get<SimulatorOptions>(std::move(parsed)));
+        return Simulate(std::get<SimulatorOptions>(parsed));
     } catch (const std::exception& error) {
-        std::cerr << "korva-simulator: " << error.what() << '\n';
+        // Memory that is not there: everything else is a result.
+        Complain(error.what());
     }
-    return 1;
+    return Failed;
 }

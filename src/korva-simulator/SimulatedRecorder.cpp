@@ -1,11 +1,10 @@
 #include "korva-simulator/SimulatedRecorder.h"
 
+#include "korva-simulator/DownloadText.h"
+#include "korva-simulator/Measuring.h"
 #include "korva-simulator/StatusText.h"
-#include "setup/tables/IntervalTable.h"
-#include "setup/tables/SamplingTable.h"
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 namespace skeldon {
@@ -13,19 +12,28 @@ namespace skeldon {
 namespace {
 
 constexpr std::string_view Mark = "#";
-constexpr int QmType = 50;
 /// What the host may send ahead; the rest is lost, as in any recorder.
 constexpr std::size_t InputLimit = 4096;
 /// Bytes of the stream that may wait for a slow host.
 constexpr std::size_t StreamBacklog = 4096;
 
-/// The number that the digits of `text` from `position` on make.
-int Number(const std::string& text, std::size_t position, std::size_t digits)
+/// Bytes that no reader of digits takes for any, nor for a mark or an end of line.
+std::string Garbage(std::int64_t count)
 {
-    int number = 0;
-    for (const char digit : text.substr(position, digits))
-        number = number * 10 + (digit - '0');
-    return number;
+    constexpr std::int64_t Most = 1'000'000;
+    constexpr std::string_view Bytes = "\xFF?\x80~z\xE5;\x01!k";
+    std::string garbage;
+    for (std::int64_t i = 0; i < std::min(count, Most); ++i)
+        garbage += Bytes[static_cast<std::size_t>(i) % Bytes.size()];
+    return garbage;
+}
+
+std::string Filler()
+{
+    std::string text;
+    for (int i = 0; i < 100; ++i)
+        text += "@Spare=0000000000000000000000\r\n";
+    return text;
 }
 
 } // namespace
@@ -33,6 +41,39 @@ int Number(const std::string& text, std::size_t position, std::size_t digits)
 CSimulatedRecorder::CSimulatedRecorder(RecorderState state)
     : m_state(std::move(state))
 {}
+
+void CSimulatedRecorder::Plug(std::int64_t nowMs)
+{
+    Advance(nowMs);
+    EndAlone(m_state, Clock());
+    ++m_changes;
+}
+
+void CSimulatedRecorder::Unplug(std::int64_t nowMs)
+{
+    Advance(nowMs);
+    m_output.Clear();
+    EndTransfer();
+    m_input.clear();
+    m_reader.Reset();
+    m_pullRequested = false;
+    BeginAlone(m_state, Clock());
+    ++m_changes;
+}
+
+void CSimulatedRecorder::MoveMagnet(bool isNear, std::int64_t nowMs)
+{
+    Advance(nowMs);
+    skeldon::MoveMagnet(m_state, isNear, Clock());
+    ++m_changes;
+}
+
+void CSimulatedRecorder::Start()
+{
+    m_state.phase = RecorderPhase::Started;
+    m_state.reservation.reset();
+    ++m_changes;
+}
 
 void CSimulatedRecorder::Receive(std::string_view bytes, std::int64_t nowMs)
 {
@@ -56,129 +97,143 @@ void CSimulatedRecorder::Advance(std::int64_t nowMs)
     m_nowMs = std::max(m_nowMs, nowMs);
     if (!m_stream)
         return;
+    constexpr std::size_t LineRoom = 9;
     const std::size_t room = StreamBacklog - std::min(StreamBacklog, m_output.Size());
-    m_output.Append(m_stream->Due(m_nowMs, static_cast<std::int64_t>(room / 8), false));
+    m_output.Append(m_stream->Due(m_nowMs, static_cast<std::int64_t>(room / LineRoom),
+                                  m_faults.Has(FaultKind::LineFeeds)));
 }
 
 std::optional<std::int64_t> CSimulatedRecorder::NextMs() const
 {
+    if (m_heldUntilMs > m_nowMs)
+        return m_heldUntilMs;
     return m_stream ? std::optional(m_stream->NextMs()) : std::nullopt;
+}
+
+std::string_view CSimulatedRecorder::Output() const
+{
+    if (m_heldUntilMs > m_nowMs)
+        return {};
+    const std::string_view front = m_output.Front();
+    return m_bytesLeft ? front.substr(0, *m_bytesLeft) : front;
 }
 
 void CSimulatedRecorder::Sent(std::size_t count)
 {
     m_output.Take(count);
-    if (m_output.IsEmpty() && m_transfer == Transfer::Download) {
-        m_transfer = Transfer::None;
-        ReadInput();
+    if (m_bytesLeft) {
+        *m_bytesLeft -= count;
+        CheckLimit();
     }
+    if (m_output.IsEmpty() && m_transfer == Transfer::Report)
+        m_output.Append(Filler());
+    if (m_output.IsEmpty() && m_transfer == Transfer::Download)
+        EndTransfer();
+    ReadInput();
 }
 
 void CSimulatedRecorder::LoseOutput()
 {
     m_output.Clear();
-    Sent(0);
-}
-
-void CSimulatedRecorder::Execute(const std::string& command)
-{
-    if (command == "m") {
-        if (m_transfer == Transfer::None)
-            m_output.Append(command);
-        return;
+    m_heldUntilMs = 0;
+    if (m_transfer == Transfer::Download) {
+        EndTransfer();
+        ReadInput();
     }
-    // Any command but the wake-up ends the stream.
-    m_stream.reset();
-    m_transfer = Transfer::None;
-    const bool isOldest = m_state.type == OldestType;
-    if (command == "#")
-        return;
-    if (command == "p")
-        m_output.Append(StatusText(m_state) + std::string(Mark));
-    else if (command == (isOldest ? "G" : "D"))
-        BeginDownload();
-    else if (command == "x")
-        BeginStream();
-    else if (command == "t") {
-        m_state.phase = RecorderPhase::Started;
-        m_state.reservation.reset();
-        Answer(command);
-    } else
-        ExecuteSetting(command);
 }
 
-void CSimulatedRecorder::ExecuteSetting(const std::string& command)
+RecorderState CSimulatedRecorder::StateAt(std::int64_t nowMs) const
 {
-    RecorderConditions& conditions = m_state.conditions;
-    const char name = command.front();
-    const bool isOldest = m_state.type == OldestType;
-    const bool hasBuzzer = m_state.type == QmType ? m_state.alpha : m_state.hasBuzzerKey;
-    if (name == 'i' && SamplingTable::RowOfCharacterFor(m_state.type, command[1]) >= 0)
-        conditions.sampling = command[1];
-    else if (name == 'j' && IntervalTable::RowOfCharacter(command[1]) >= 0)
-        conditions.interval = command[1];
-    else if (name == 'd')
-        conditions.threshold = Number(command, 1, 2);
-    else if (name == 'k')
-        conditions.warn = Number(command, 1, 1);
-    else if (name == 'N')
-        conditions.hostNumber = Number(command, 1, 2);
-    else if (command == "w99") {
-        // The calibration changes nothing that the host can see.
-    } else if (name == 'w' && !isOldest)
-        conditions.startOption = Number(command, 1, 2);
-    else if (name == 'O' && command[1] == 'x' && m_state.alpha)
-        conditions.hazard = Number(command, 2, 2);
-    else if (name == 'O' && command[1] == 'z' && m_state.alpha)
-        conditions.endless = Number(command, 2, 2) != 0;
-    else if (name == 'z' && hasBuzzer)
-        conditions.buzzer = command[1] == '0';
-    else if (name == 's') {
-        // A clock that is set begins a new memory.
-        const std::string text = command.substr(1, 4) + "-" + command.substr(6, 2) + "-" +
-                                 command.substr(9, 2) + command.substr(11);
-        const std::optional<RecorderSeconds> clock = ParseRecorderTime(text);
-        if (!clock)
-            return;
-        m_state.clock = *clock - m_nowMs / 1000;
-        m_state.begun = *clock;
-        m_state.memory.Clear();
-    } else if (name >= '0' && name <= '9' && CanChangeRange(Number(command, 0, 2)))
-        m_state.type = Number(command, 0, 2);
-    else
-        return;
-    Answer(command);
-}
-
-void CSimulatedRecorder::Answer(const std::string& command)
-{
-    m_output.Append(command + "\r\n" + std::string(Mark));
-}
-
-bool CSimulatedRecorder::CanChangeRange(int maximum) const
-{
-    constexpr std::array<std::pair<int, int>, 4> Ranges = {{{1, 2}, {2, 1}, {10, 20}, {20, 10}}};
-    return m_state.alpha &&
-           std::ranges::find(Ranges, std::pair(m_state.type, maximum)) != Ranges.end();
-}
-
-void CSimulatedRecorder::BeginDownload()
-{
-    m_transfer = Transfer::Download;
-    m_output.AppendView(m_state.memory.Wire());
-    m_output.AppendView(Mark);
-}
-
-void CSimulatedRecorder::BeginStream()
-{
-    m_transfer = Transfer::Stream;
-    const CSurroundings surroundings(m_state.seed, m_state.Model().countsPerG, 1);
-    m_stream.emplace(surroundings, m_nowMs, Clock() * 100);
+    RecorderState state = m_state;
+    state.clock += std::max(m_nowMs, nowMs) / 1000;
+    NoteDown(state, state.clock);
+    return state;
 }
 
 RecorderSeconds CSimulatedRecorder::Clock() const
 {
     return m_state.clock + m_nowMs / 1000;
+}
+
+void CSimulatedRecorder::BeginReply()
+{
+    if (const Fault* const delay = m_faults.Find(FaultKind::Delay))
+        m_heldUntilMs = m_nowMs + delay->number;
+    if (const Fault* const garbage = m_faults.Find(FaultKind::Garbage))
+        m_output.Append(Garbage(garbage->number));
+}
+
+void CSimulatedRecorder::Answer(const std::string& command, std::string text)
+{
+    BeginReply();
+    m_output.Append(std::move(text));
+    const bool isEndless = command == "p" && m_faults.Has(FaultKind::EndlessReport);
+    if (!isEndless && !m_faults.FindFor(FaultKind::NoMark, command))
+        m_output.Append(std::string(Mark));
+}
+
+void CSimulatedRecorder::BeginEndlessReport()
+{
+    m_transfer = Transfer::Report;
+    m_output.Append(Filler());
+}
+
+void CSimulatedRecorder::BeginDownload()
+{
+    m_transfer = Transfer::Download;
+    LimitTransfer();
+    BeginReply();
+    if (std::optional<std::string> spoilt = SpoiltDownload(m_state, m_faults))
+        m_output.Append(std::move(*spoilt));
+    else
+        m_output.AppendView(m_state.memory.Wire());
+    if (!m_faults.FindFor(FaultKind::NoMark, m_state.type == OldestType ? "G" : "D"))
+        m_output.Append(std::string(Mark));
+    CheckLimit();
+    if (m_output.IsEmpty())
+        EndTransfer();
+}
+
+void CSimulatedRecorder::BeginStream()
+{
+    m_transfer = Transfer::Stream;
+    LimitTransfer();
+    const CSurroundings surroundings(m_state.seed, m_state.Model().countsPerG, 1);
+    m_stream.emplace(surroundings, m_nowMs, Clock() * 100);
+    CheckLimit();
+}
+
+void CSimulatedRecorder::LimitTransfer()
+{
+    for (const FaultKind kind : {FaultKind::SilenceAfter, FaultKind::PullAfter}) {
+        if (const Fault* const fault = m_faults.Find(kind)) {
+            const auto bytes = static_cast<std::size_t>(fault->number);
+            m_bytesLeft = std::min(m_bytesLeft.value_or(bytes), bytes);
+        }
+    }
+}
+
+void CSimulatedRecorder::CheckLimit()
+{
+    if (m_bytesLeft != 0U)
+        return;
+    // Of two limits the cable's counts where it is not the larger one.
+    const Fault* const pull = m_faults.Find(FaultKind::PullAfter);
+    const Fault* const silence = m_faults.Find(FaultKind::SilenceAfter);
+    if (pull && (!silence || pull->number <= silence->number)) {
+        m_pullRequested = true;
+        m_faults.Remove(pull);
+    }
+    m_output.Clear();
+    EndTransfer();
+}
+
+void CSimulatedRecorder::EndTransfer()
+{
+    m_transfer = Transfer::None;
+    m_stream.reset();
+    m_bytesLeft.reset();
+    m_heldUntilMs = 0;
 }
 
 } // namespace skeldon

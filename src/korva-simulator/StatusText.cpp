@@ -1,5 +1,7 @@
 #include "korva-simulator/StatusText.h"
 
+#include "korva-simulator/DownloadText.h"
+
 #include <array>
 #include <cstdio>
 
@@ -29,9 +31,18 @@ std::string ThresholdText(int counts)
     return std::to_string(counts / 10) + "." + std::to_string(counts % 10) + "G";
 }
 
-std::string DateText(RecorderSeconds seconds)
+std::string CountText(const RecorderState& state, const CFaults& faults)
+{
+    const Fault* const fault = faults.Find(FaultKind::Count);
+    const std::string count = fault ? fault->text : std::to_string(state.memory.Count());
+    return count + " " + std::to_string(state.capacity);
+}
+
+std::string DateText(RecorderSeconds seconds, const CFaults& faults)
 {
     const CalendarFields fields = ToRecorderFields(seconds);
+    if (faults.Has(FaultKind::YearOnly))
+        return std::to_string(fields.year);
     std::array<char, 64> text{};
     (void)std::snprintf(text.data(), text.size(), "%04d/%02d/%02d %02d:%02d:%02d", fields.year,
                         fields.month, fields.day, fields.hour, fields.minute, fields.second);
@@ -40,7 +51,7 @@ std::string DateText(RecorderSeconds seconds)
 
 } // namespace
 
-std::string StatusText(const RecorderState& state)
+std::string StatusText(const RecorderState& state, const CFaults& faults)
 {
     const RecorderConditions& conditions = state.conditions;
     const bool hasType = state.type != OldestType;
@@ -50,8 +61,8 @@ std::string StatusText(const RecorderState& state)
     report.Add((family + (state.alpha ? "_A RLS" : " RLS")).c_str(), state.alpha ? "2.10" : "1.40");
     if (hasType)
         report.Add("@Type", state.type);
-    report.Add("@Count",
-               std::to_string(state.memory.Count()) + " " + std::to_string(state.capacity));
+    if (!faults.Has(FaultKind::NoCount))
+        report.Add("@Count", CountText(state, faults));
     report.Add("@Interval", std::string(1, conditions.sampling));
     report.Add("@Record", std::string(1, conditions.interval));
     report.Add(hasType ? "@detect" : "@Detect", ThresholdText(conditions.threshold));
@@ -62,7 +73,7 @@ std::string StatusText(const RecorderState& state)
                                            (conditions.endless ? "1" : "0")
                                      : "130 131 129");
     report.Add("@ADJ L", "126 125 127");
-    report.Add("@Year", DateText(state.begun));
+    report.Add("@Year", DateText(state.begun + NewYearShift(state, faults), faults));
     report.Add("@My_ID", conditions.hostNumber);
     // A recorder with its buzzer on says 0.
     if (state.hasBuzzerKey)
@@ -72,6 +83,12 @@ std::string StatusText(const RecorderState& state)
         report.Add("@wait", conditions.startOption);
     report.Add("@Lag", 0);
     report.Add("@start", 0);
+    if (faults.Has(FaultKind::KeysTwice)) {
+        report.Add("@Count", "1 1");
+        report.Add("@Type", 1);
+        report.Add("@Year", "1999/12/31 23:59:59");
+        report.Add("@My_ID", 98);
+    }
     return report.m_text;
 }
 

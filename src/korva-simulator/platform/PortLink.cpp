@@ -31,6 +31,13 @@ CPortLink::CPortLink(fs::path path, const std::string& target, std::error_code& 
     m_target = target;
 }
 
+CPortLink& CPortLink::operator=(CPortLink&& other) noexcept
+{
+    std::swap(m_path, other.m_path);
+    std::swap(m_target, other.m_target);
+    return *this;
+}
+
 CPortLink::~CPortLink()
 {
     std::error_code error;

@@ -15,8 +15,8 @@ public:
     /// Puts the link in place whole. One that is there already gives way; anything else under that
     /// name stays and is an error.
     CPortLink(std::filesystem::path path, const std::string& target, std::error_code& error);
-    CPortLink(const CPortLink&) = delete;
-    CPortLink& operator=(const CPortLink&) = delete;
+    CPortLink(CPortLink&&) = delete;
+    CPortLink& operator=(CPortLink&& other) noexcept;
     ~CPortLink();
 
 private:

@@ -1,8 +1,7 @@
 #include "data/PlainAnalysis.h"
 
 #include "base/PlainCalendar.h"
-
-#include <bit>
+#include "data/SameRecord.h"
 
 #include <gtest/gtest.h>
 
@@ -27,11 +26,6 @@ void SetKey(CMeasureRecord& line)
 {
     const auto instant = static_cast<std::uint64_t>(Milliseconds(line) + 1);
     line.m_checkKey = static_cast<std::int64_t>(instant * (std::uint64_t{line.m_flags} + 1));
-}
-
-bool SameBits(double a, double b)
-{
-    return std::bit_cast<std::uint64_t>(a) == std::bit_cast<std::uint64_t>(b) || (a != a && b != b);
 }
 
 } // namespace
@@ -126,14 +120,6 @@ std::int64_t PlainAnalysis::Signature() const
         s = t * 2 + (static_cast<std::int64_t>(t) < 0 ? 1 : 0);
     }
     return static_cast<std::int64_t>(s);
-}
-
-bool SameRecord(const CMeasureRecord& a, const CMeasureRecord& b)
-{
-    return a.m_time == b.m_time && a.m_msec == b.m_msec && a.m_flags == b.m_flags &&
-           a.m_checkKey == b.m_checkKey && SameBits(a.m_x, b.m_x) && SameBits(a.m_y, b.m_y) &&
-           SameBits(a.m_z, b.m_z) && SameBits(a.m_temperature, b.m_temperature) &&
-           SameBits(a.m_humidity, b.m_humidity) && SameBits(a.m_resultant, b.m_resultant);
 }
 
 void ExpectSame(const CMeasureData& data, const PlainAnalysis& plain)

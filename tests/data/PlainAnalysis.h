@@ -30,9 +30,6 @@ struct PlainAnalysis
     [[nodiscard]] std::int64_t Signature() const;
 };
 
-/// Whether all fields are the same, numbers to the last bit.
-bool SameRecord(const CMeasureRecord& a, const CMeasureRecord& b);
-
 /// Fails the test where lines or findings differ.
 void ExpectSame(const CMeasureData& data, const PlainAnalysis& plain);
 

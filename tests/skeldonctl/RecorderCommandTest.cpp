@@ -1,0 +1,267 @@
+#include "Tool.h"
+
+#include "data/MeasureData.h"
+#include "files/DataFile.h"
+
+#include <csignal>
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <thread>
+
+namespace skeldon::test {
+
+namespace {
+
+/// The tool and a simulated recorder on a real pseudo terminal.
+class RecorderCommand : public ::testing::Test
+{
+protected:
+    std::unique_ptr<CBackgroundProgram> Simulator(std::vector<std::string> options)
+    {
+        options.insert(options.end(), {"--link", m_port});
+        auto simulator = std::make_unique<CBackgroundProgram>(SIMULATOR, options);
+        EXPECT_NE(simulator->Ready(), "") << "the simulator did not start";
+        return simulator;
+    }
+    Outcome OnPort(std::vector<std::string> arguments)
+    {
+        arguments.insert(arguments.end(), {"--port", m_port});
+        return Tool(arguments);
+    }
+    std::string WriteProfile(const std::string& conditions)
+    {
+        const std::string path = m_folder.Path("crate.skp").string();
+        WriteText(path, "[Configuration]\r\n" + conditions);
+        return path;
+    }
+
+    CTemporaryFolder m_folder;
+    std::string m_port = m_folder.Path("korva").string();
+    std::string m_data = m_folder.Path("out.skd").string();
+    std::string m_csv = m_folder.Path("out.csv").string();
+};
+
+TEST_F(RecorderCommand, WithoutACableThereIsNoRecorder)
+{
+    for (const std::vector<std::string>& arguments : {std::vector<std::string>{"status"},
+                                                      {"get", "-o", m_data},
+                                                      {"online", "--seconds", "1"}}) {
+        const Outcome outcome = OnPort(arguments);
+        EXPECT_EQ(outcome.status, 3);
+        EXPECT_EQ(outcome.out, "");
+        EXPECT_NE(outcome.err.find("Can not connect to KORVA"), std::string::npos);
+    }
+    EXPECT_FALSE(std::filesystem::exists(m_data));
+}
+
+TEST_F(RecorderCommand, APortThatIsNoneIsNoRecorder)
+{
+    WriteText(m_port, "");
+    EXPECT_EQ(OnPort({"status"}).status, 3);
+}
+
+TEST_F(RecorderCommand, StatusGivesEveryMemberOfTheJsonObject)
+{
+    const auto simulator = Simulator({"--type", "qm70", "--alpha", "--lines", "123"});
+    const Outcome outcome = OnPort({"status", "--json"});
+    EXPECT_EQ(outcome.status, 0) << outcome.err;
+    const nlohmann::json json = JsonOf(outcome);
+    for (const char* key :
+         {"port",       "model", "type",       "maxG",     "alpha",     "release",
+          "version",    "count", "countLimit", "sampling", "interval",  "threshold",
+          "hostNumber", "warn",  "wait",       "hazard",   "endless",   "buzzer",
+          "hasBuzzer",  "year",  "month",      "day",      "lineLength"})
+        EXPECT_TRUE(json.contains(key)) << key;
+    EXPECT_EQ(json.size(), 23U);
+    EXPECT_EQ(json.value("port", ""), m_port);
+    EXPECT_EQ(json.value("model", ""), "QM70");
+    EXPECT_EQ(json.value("type", 0), 50);
+    EXPECT_EQ(json.value("maxG", 0.0), 50.0);
+    EXPECT_EQ(json.value("alpha", false), true);
+    EXPECT_EQ(json.value("count", 0), 123);
+    EXPECT_EQ(json.value("lineLength", 0), 22);
+    EXPECT_EQ(json.value("hasBuzzer", false), true);
+}
+
+TEST_F(RecorderCommand, TheEnvironmentNamesThePortToo)
+{
+    const auto simulator = Simulator({"--type", "pl20", "--lines", "5"});
+    const Outcome outcome = Tool({"status", "--json"}, {"SKELDON_PORT=" + m_port});
+    EXPECT_EQ(outcome.status, 0) << outcome.err;
+    EXPECT_EQ(JsonOf(outcome).value("model", ""), "PL20");
+}
+
+TEST_F(RecorderCommand, GetLeavesDataFileAndCsvOfWhatItPrints)
+{
+    const auto simulator = Simulator({"--type", "qm70", "--alpha", "--lines", "2000"});
+    const Outcome outcome = OnPort({"get", "-o", m_data, "--csv", m_csv, "--json", "--records"});
+    EXPECT_EQ(outcome.status, 0) << outcome.err;
+    nlohmann::json got = JsonOf(outcome);
+    EXPECT_EQ(got.value("records", 0), 2000);
+    EXPECT_EQ(got.value("expected", 0), 2000);
+    EXPECT_EQ(got.value("file", ""), "out.skd");
+    nlohmann::json saved = JsonOf(Tool({"info", m_data, "--json", "--records"}));
+    for (const char* key :
+         {"marks", "firstBreak", "abnormal", "model", "release", "sampling", "interval",
+          "threshold", "hostNumber", "hasHumidity", "typeNumber", "minStepMs", "signature"})
+        EXPECT_EQ(got[key], saved[key]) << key;
+    EXPECT_EQ(got["lines"].size(), 2000U);
+    EXPECT_EQ(ReadText(m_csv), Tool({"csv", m_data}).out);
+}
+
+TEST_F(RecorderCommand, GetReadsEveryFamily)
+{
+    const std::vector<std::vector<std::string>> families{
+        {"--type", "oldest"},          {"--type", "pl04"},
+        {"--type", "pl04", "--alpha"}, {"--type", "pl20"},
+        {"--type", "20", "--alpha"},   {"--type", "qm70"},
+        {"--type", "qm70", "--alpha"},
+    };
+    for (std::vector<std::string> options : families) {
+        options.insert(options.end(), {"--lines", "50"});
+        const auto simulator = Simulator(options);
+        const nlohmann::json json = JsonOf(OnPort({"get", "--json"}));
+        EXPECT_EQ(json.value("records", 0), 50) << ::testing::PrintToString(options);
+        EXPECT_EQ(json.value("abnormal", -1), 0) << ::testing::PrintToString(options);
+        const bool isAlpha = options[2] == "--alpha";
+        EXPECT_EQ(json.value("hasHumidity", !isAlpha), isAlpha)
+            << ::testing::PrintToString(options);
+    }
+}
+
+TEST_F(RecorderCommand, AnEmptyRecorderIsNoFailureAndLeavesNoFile)
+{
+    const auto simulator = Simulator({"--lines", "0"});
+    const Outcome outcome = OnPort({"get", "-o", m_data, "--csv", m_csv});
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_NE(outcome.err.find("No measured data is available."), std::string::npos);
+    EXPECT_FALSE(std::filesystem::exists(m_data));
+    EXPECT_FALSE(std::filesystem::exists(m_csv));
+    const nlohmann::json json = JsonOf(OnPort({"get", "--json"}));
+    EXPECT_EQ(json.value("records", -1), 0);
+    EXPECT_EQ(json.value("expected", -1), 0);
+}
+
+TEST_F(RecorderCommand, AMissingFolderIsToldBeforeTheRecorderIsRead)
+{
+    const auto simulator = Simulator({"--lines", "10"});
+    const Outcome outcome =
+        OnPort({"get", "-o", m_folder.Path("nowhere/out.skd").string(), "--csv", m_csv});
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_NE(outcome.err.find("nowhere"), std::string::npos);
+    EXPECT_FALSE(std::filesystem::exists(m_csv));
+}
+
+TEST_F(RecorderCommand, AFileThatCanNotBeWrittenIsAFailureThoughAllLinesCame)
+{
+    const auto simulator = Simulator({"--lines", "10"});
+    const Outcome outcome = OnPort({"get", "-o", "/dev/full", "--csv", m_csv, "--json"});
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_NE(outcome.err.find("/dev/full"), std::string::npos);
+    EXPECT_EQ(JsonOf(outcome).value("records", 0), 10);
+    EXPECT_TRUE(std::filesystem::exists(m_csv));
+}
+
+TEST_F(RecorderCommand, OnlineRecordsTwoHundredLinesASecond)
+{
+    const auto simulator = Simulator({"--type", "qm70", "--alpha"});
+    const Outcome outcome = OnPort({"online", "--seconds", "1", "-o", m_data, "--json"});
+    EXPECT_EQ(outcome.status, 0) << outcome.err;
+    const nlohmann::json json = JsonOf(outcome);
+    EXPECT_EQ(json.value("records", 0), 200);
+    EXPECT_EQ(json.value("expected", 0), 200);
+    EXPECT_EQ(json.value("minStepMs", 0), 5);
+    EXPECT_EQ(json.value("hasTemperature", true), false);
+    EXPECT_EQ(json.value("hasHumidity", true), false);
+    EXPECT_EQ(JsonOf(Tool({"info", m_data, "--json"})).value("hasTemperature", true), false);
+}
+
+TEST_F(RecorderCommand, StartGivesTheRecorderTheConditions)
+{
+    const auto simulator = Simulator({"--type", "qm70", "--alpha"});
+    const std::string profile =
+        WriteProfile("SerialNo=7\r\nSampling=1\r\nInterval=12\r\nThreshold=25\r\nStartOpt=30\r\n"
+                     "OverThreshold=yes\r\nHazard=100\r\nEndless=yes\r\nBuzzer=yes\r\n");
+    const Outcome outcome = OnPort({"start", profile});
+    EXPECT_EQ(outcome.status, 0) << outcome.err;
+    EXPECT_NE(outcome.err.find("Disconnect KORVA cable."), std::string::npos);
+    const nlohmann::json json = JsonOf(OnPort({"status", "--json"}));
+    EXPECT_EQ(json.value("hostNumber", 0), 7);
+    EXPECT_EQ(json.value("sampling", 0), 3);
+    EXPECT_EQ(json.value("interval", 0), 13);
+    EXPECT_EQ(json.value("threshold", 0), 25);
+    EXPECT_EQ(json.value("wait", 0), 30);
+    EXPECT_EQ(json.value("warn", false), true);
+    EXPECT_EQ(json.value("hazard", 0), 100);
+    EXPECT_EQ(json.value("endless", false), true);
+    EXPECT_EQ(json.value("buzzer", false), true);
+}
+
+TEST_F(RecorderCommand, StartFailsOnTheFirstConditionThatDoesNotFitAndSaysWhatWould)
+{
+    const auto simulator = Simulator({"--type", "pl20", "--alpha"});
+    const std::string profile = WriteProfile("Sampling=20\r\nThreshold=200\r\n");
+    const nlohmann::json before = JsonOf(OnPort({"status", "--json"}));
+    const Outcome outcome = OnPort({"start", profile});
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_NE(outcome.err.find("sampling rate"), std::string::npos);
+    EXPECT_NE(outcome.err.find("0.0312sec"), std::string::npos);
+    EXPECT_EQ(outcome.err.find("threshold"), std::string::npos);
+    EXPECT_EQ(JsonOf(OnPort({"status", "--json"})), before);
+}
+
+TEST_F(RecorderCommand, StartWithFitTakesTheOfferedValuesAndSaysSo)
+{
+    const auto simulator = Simulator({"--type", "pl20", "--alpha"});
+    const std::string profile = WriteProfile("Sampling=20\r\nThreshold=200\r\nHazard=70\r\n");
+    const Outcome outcome = OnPort({"start", profile, "--fit"});
+    EXPECT_EQ(outcome.status, 0) << outcome.err;
+    EXPECT_NE(outcome.err.find("Taking 0.0312sec"), std::string::npos);
+    EXPECT_NE(outcome.err.find("Taking 0.0G"), std::string::npos);
+    const nlohmann::json json = JsonOf(OnPort({"status", "--json"}));
+    EXPECT_EQ(json.value("sampling", 0), 4);
+    EXPECT_EQ(json.value("threshold", -1), 0);
+    EXPECT_EQ(json.value("hazard", 0), 70);
+}
+
+TEST_F(RecorderCommand, StartKeepsTheDataUnlessItIsToBeCleared)
+{
+    const auto simulator = Simulator({"--type", "pl20", "--lines", "40"});
+    const std::string profile = WriteProfile("Interval=3\r\n");
+    EXPECT_EQ(OnPort({"start", profile}).status, 0);
+    EXPECT_EQ(JsonOf(OnPort({"status", "--json"})).value("count", -1), 40);
+    EXPECT_EQ(OnPort({"start", profile, "--clear"}).status, 0);
+    EXPECT_EQ(JsonOf(OnPort({"status", "--json"})).value("count", -1), 0);
+}
+
+TEST_F(RecorderCommand, AReservationOverDataNeedsToClearIt)
+{
+    const auto simulator = Simulator({"--type", "pl20", "--lines", "40"});
+    const std::string profile = WriteProfile("Interval=3\r\n");
+    const Outcome refused = OnPort({"start", profile, "--at", "2099-12-31 23:59"});
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_NE(refused.err.find("--clear"), std::string::npos);
+    EXPECT_EQ(OnPort({"start", profile, "--at", "2099-12-31 23:59", "--clear"}).status, 0);
+    EXPECT_EQ(JsonOf(OnPort({"status", "--json"})).value("count", -1), 0);
+}
+
+TEST_F(RecorderCommand, AReservationInThePastIsRefused)
+{
+    const auto simulator = Simulator({"--type", "pl20"});
+    const Outcome outcome =
+        OnPort({"start", WriteProfile("Interval=3\r\n"), "--at", "2001-01-01 00:00"});
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_NE(outcome.err.find("Reservation date should be in the future."), std::string::npos);
+}
+
+TEST_F(RecorderCommand, AProfileThatCanNotBeReadIsAFailure)
+{
+    const std::string nothing = m_folder.Path("nothing.skp").string();
+    const Outcome outcome = OnPort({"start", nothing});
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_NE(outcome.err.find(nothing), std::string::npos);
+}
+
+} // namespace
+
+} // namespace skeldon::test

@@ -36,36 +36,20 @@ public:
     /// time field was out of its range: it is forced into it then. The flags stay as they are.
     bool DecodeLine(std::string_view text, CMeasureRecord& record);
 
-    /// The same from `LineDigits` characters, but only if all are upper-case hexadecimal digits:
-    /// else nothing happens and `isPlain` is false.
-    bool DecodePlainLine(const char* text, CMeasureRecord& record, bool& isPlain);
+    enum class PlainLine
+    {
+        Valid,
+        Invalid, ///< a time field was out of its range
+        NotPlain ///< a character is no upper-case hexadecimal digit; nothing happened
+    };
+    /// The same from `LineDigits` characters, if all of them are digits.
+    PlainLine DecodePlainLine(const char* text, CMeasureRecord& record);
 
 private:
-    /// A line's bytes. The time stamp is put together while they are read: stored one by one and
-    /// loaded as a word it would hold up the processor on every line.
-    struct LineBytes
-    {
-        void Set(std::size_t place, std::uint8_t value)
-        {
-            if (place < TimeBytes)
-                time = time << 8 | value;
-            else
-                values[place - TimeBytes] = value;
-        }
-        /// The byte at `place`, behind the time stamp.
-        [[nodiscard]] std::uint8_t operator[](std::size_t place) const
-        {
-            return values[place - TimeBytes];
-        }
-
-        static constexpr std::size_t TimeBytes = 4;
-        std::uint32_t time = 0;
-        std::array<std::uint8_t, MostLineDigits / 2 - TimeBytes> values{};
-    };
-
-    bool DecodeBytes(const LineBytes& bytes, CMeasureRecord& record);
-    bool DecodeOldest(const LineBytes& bytes, CMeasureRecord& record);
-    bool DecodeNewer(const LineBytes& bytes, CMeasureRecord& record);
+    /// The instant of a time stamp. A field out of its range is forced into it, and `isValid` is
+    /// false then.
+    [[nodiscard]] CalendarSeconds TimeOf(std::uint32_t stamp, bool& isValid);
+    [[nodiscard]] CalendarSeconds TimeOnAnotherDay(std::uint32_t stamp, bool& isValid);
 
     std::size_t m_lineDigits;
     int m_year;
@@ -74,6 +58,8 @@ private:
     bool m_hasHumidity;
     std::array<double, 256> m_axis{}; ///< G of each axis byte
     CLocalCalendar m_calendar;
+    std::uint32_t m_dayBits;        ///< month and day in the stamps of the day known
+    CalendarSeconds m_dayBegin = 0; ///< the start of that day
 };
 
 } // namespace skeldon

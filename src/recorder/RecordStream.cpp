@@ -14,12 +14,12 @@ CRecordStream::CRecordStream(CByteStream& stream, const CRecordDecoder& decoder)
 
 bool CRecordStream::NextRecord(CMeasureRecord& record)
 {
+    using PlainLine = CRecordDecoder::PlainLine;
     const std::size_t full = m_decoder.LineDigits();
-    bool valid = false;
-    bool isPlain = false;
-    if (const char* const text = m_reader.PlainLine(full))
-        valid = m_decoder.DecodePlainLine(text, record, isPlain);
-    if (isPlain) {
+    const char* const text = m_reader.PlainLine(full);
+    const PlainLine plain = text ? m_decoder.DecodePlainLine(text, record) : PlainLine::NotPlain;
+    bool valid = plain == PlainLine::Valid;
+    if (plain != PlainLine::NotPlain) {
         m_reader.SkipPlainLine(full);
     } else {
         std::array<char, MostLineDigits + 2> line;

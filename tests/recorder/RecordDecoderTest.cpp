@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 
@@ -238,24 +239,50 @@ TEST(DecodeLine, LeavesTheFlagsAlone)
 
 TEST(DecodePlainLine, RefusesWhatIsNoUpperCaseDigit)
 {
+    using PlainLine = CRecordDecoder::PlainLine;
+    for (const RecorderStatus& status : {Oldest(), Standard(), Alpha()}) {
+        CRecordDecoder decoder(status, true);
+        const std::string good = (Time + "0A0B0C190014").substr(0, decoder.LineDigits());
+        for (std::size_t at = 0; at < good.size(); ++at) {
+            for (int c = 0; c < 256; ++c) {
+                std::string line = good;
+                line[at] = static_cast<char>(c);
+                CMeasureRecord record(5);
+                const bool isDigit = (c >= '0' && c <= '9') || (c >= 'A' && c <= 'F');
+                const PlainLine result = decoder.DecodePlainLine(line.data(), record);
+                EXPECT_EQ(result == PlainLine::NotPlain, !isDigit) << at << ' ' << c;
+                EXPECT_EQ(record.m_time == 5, !isDigit);
+            }
+        }
+        CMeasureRecord record(5);
+        EXPECT_EQ(decoder.DecodePlainLine(good.data(), record), PlainLine::Valid);
+        EXPECT_EQ(record.m_z, status.m_type == 0 ? 12 * 0.1 : 1.2);
+        const std::string zeros(20, '0');
+        EXPECT_EQ(decoder.DecodePlainLine(zeros.data(), record), PlainLine::Invalid);
+    }
+}
+
+TEST(DecodeLine, KnowsTheDayAgainAndTheNextDay)
+{
+    // One decoder over days, an impossible date, the days on which the clock is changed, and back.
     CRecordDecoder decoder(Standard(), false);
-    const std::string good = Time + "0A0B0C1900";
-    for (std::size_t at = 0; at < good.size(); ++at) {
-        for (const char c : {'a', 'f', 'G', ':', '@', '/', ' ', '\0', '\xC1', '#', '`'}) {
-            std::string bad = good;
-            bad[at] = c;
+    const int dates[][2] = {{5, 6},   {5, 6},  {5, 7}, {2, 30}, {3, 1}, {2, 30}, {3, 31},
+                            {10, 27}, {3, 31}, {5, 6}, {0, 6},  {5, 0}, {13, 1}, {5, 6}};
+    for (const auto& date : dates) {
+        for (const int hour : {0, 1, 2, 3, 23, 24}) {
+            char line[24];
+            std::snprintf(line, sizeof line, "%08X0000000000",
+                          static_cast<unsigned>(date[0]) << 28 |
+                              static_cast<unsigned>(date[1]) << 21 |
+                              static_cast<unsigned>(hour) << 16 | 30U << 10 | 59U << 4);
             CMeasureRecord record(5);
-            bool isPlain = true;
-            EXPECT_FALSE(decoder.DecodePlainLine(bad.data(), record, isPlain));
-            EXPECT_FALSE(isPlain) << at << c;
-            EXPECT_EQ(record.m_time, 5);
+            decoder.DecodeLine(line, record);
+            EXPECT_EQ(record.m_time,
+                      FromLocalFields({2024, std::clamp(date[0], 1, 12), std::max(date[1], 1),
+                                       std::min(hour, 23), 30, 59}))
+                << date[0] << '/' << date[1] << ' ' << hour;
         }
     }
-    CMeasureRecord record(5);
-    bool isPlain = false;
-    EXPECT_TRUE(decoder.DecodePlainLine(good.data(), record, isPlain));
-    EXPECT_TRUE(isPlain);
-    EXPECT_EQ(record.m_z, 1.2);
 }
 
 } // namespace

@@ -1,5 +1,5 @@
 // Runs every contender in turn, round by round, and prints the table of docs/benchmarks.md.
-//   skeldon-bench [rounds]
+//   skeldon-bench [rounds] [work...]
 #include "Benchmarks.h"
 #include "MemoryUse.h"
 #include "PlainOutput.h"
@@ -9,9 +9,13 @@
 #include "files/CsvFile.h"
 #include "files/DataFile.h"
 
+#include <algorithm>
+#include <array>
 #include <cstdio>
 #include <cstdlib>
 #include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 using namespace skeldon;
@@ -114,20 +118,41 @@ void PrintMemory()
                 double(csv) / Megabyte);
 }
 
+/// The rows of the table that are asked for; all where none is named.
+std::vector<Work> AddWorks(const std::vector<std::string>& names)
+{
+    constexpr std::array<std::pair<std::string_view, Work (*)()>, 8> Makers{{
+        {"load", AddLoad},
+        {"save", AddSave},
+        {"csv", AddCsv},
+        {"decode", AddDecode},
+        {"analysis-file", AddAnalysisOfFile},
+        {"analysis-download", AddAnalysisOfDownload},
+        {"signature", AddSignature},
+        {"download", AddDownload},
+    }};
+    std::vector<Work> works;
+    for (const auto& [name, make] : Makers) {
+        if (names.empty() || std::ranges::find(names, name) != names.end())
+            works.push_back(make());
+    }
+    return works;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
     const int rounds = argc > 1 ? std::atoi(argv[1]) : DefaultRounds;
+    const std::vector<std::string> names(argv + std::min(argc, 2), argv + argc);
     int count = 1;
     benchmark::Initialize(&count, argv);
-    const std::vector<Work> works{AddLoad(),     AddSave(),           AddCsv(),
-                                  AddDecode(),   AddAnalysisOfFile(), AddAnalysisOfDownload(),
-                                  AddSignature()};
+    const std::vector<Work> works = AddWorks(names);
     const Samples samples = RunRounds(rounds);
     PrintTimes(samples, works);
     PrintRatios(samples, works);
-    PrintMemory();
+    if (names.empty())
+        PrintMemory();
     RemoveFiles();
     return 0;
 }

@@ -65,4 +65,19 @@ void AddContender(const std::string& work, const std::string& contender, double 
     }
 }
 
+void AddTimedContender(const std::string& work, const std::string& contender,
+                       double (*run)(std::size_t))
+{
+    for (const std::size_t lines : {FewLines, ManyLines}) {
+        const std::string name = work + '/' + contender + '/' + std::to_string(lines);
+        benchmark::RegisterBenchmark(name.c_str(),
+                                     [=](benchmark::State& state) {
+                                         for (auto _ : state)
+                                             state.SetIterationTime(run(lines));
+                                     })
+            ->Iterations(1)
+            ->UseManualTime();
+    }
+}
+
 } // namespace skeldon::bench

@@ -42,6 +42,10 @@ using Samples = std::map<std::string, std::vector<double>>;
 void AddContender(const std::string& work, const std::string& contender,
                   double (*run)(std::size_t lines), void (*prepare)(std::size_t lines) = nullptr);
 
+/// Registers one contender that measures by itself: `run` gives seconds.
+void AddTimedContender(const std::string& work, const std::string& contender,
+                       double (*run)(std::size_t lines));
+
 inline constexpr std::size_t FewLines = 100'000;
 inline constexpr std::size_t ManyLines = 1'000'000;
 

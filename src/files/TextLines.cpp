@@ -79,10 +79,14 @@ bool CTextLines::Next(std::string_view& line)
             return false;
         line = TrimWhite({m_buffer.get() + m_begin, m_end - m_begin});
         m_isCut = m_end == LongestLine;
-        if (m_isCut)
+        if (m_isCut) {
+            // What follows is read over the line.
+            m_start = line.substr(0, StartLength);
+            line = m_start;
             SkipToLineEnd();
-        else
+        } else {
             Consume(m_end - m_begin);
+        }
         return !m_error;
     }
 }

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <limits>
 #include <memory>
+#include <string>
 #include <string_view>
 #include <system_error>
 
@@ -16,8 +17,10 @@ namespace skeldon {
 class CTextLines
 {
 public:
-    /// Longer lines are given without their end, as `IsCut` tells.
+    /// Of longer lines the start alone is given, as `IsCut` tells.
     static constexpr std::size_t LongestLine = std::size_t{1} << 20;
+    /// How much that is; longer than any tag.
+    static constexpr std::size_t StartLength = 64;
 
     explicit CTextLines(const CInputFile& file, std::uint64_t offset = 0);
 
@@ -42,6 +45,7 @@ private:
     std::size_t m_end = 0;
     std::uint64_t m_offset;
     bool m_isCut = false;
+    std::string m_start; ///< of a line that is cut
     std::error_code m_error;
 };
 

@@ -117,7 +117,6 @@ void AddWireOptions(CLI::App& app, RawOptions& raw)
     app.add_option("--time-scale", raw.result.timeScale,
                    "Seconds of the recorder in one real second")
         ->type_name("FACTOR")
-        ->check(CLI::Range(0.001, 1'000'000.0).description(""))
         ->capture_default_str();
     app.add_option("--fault", raw.faults, "A fault from the list below; may be given again")
         ->type_name("NAME[=VALUE]")
@@ -178,6 +177,9 @@ std::optional<EarlyEnd> Complete(RawOptions& raw)
         return Refuse("--type", raw.type, "recorder type");
     options.recorder.type = *type;
     options.recorder.hasBuzzerKey = *type != OldestType && !raw.noBuzzer;
+    // Written so that "nan" falls out too.
+    if (!(options.timeScale >= 0.001 && options.timeScale <= 1e6))
+        return EarlyEnd{WrongUsage, "--time-scale: the factor lies between 0.001 and 1000000\n"};
     const std::optional<std::int64_t> rate = RateOf(raw.rate);
     if (!rate)
         return Refuse("--rate", raw.rate, "rate: real, full, or bytes a second");

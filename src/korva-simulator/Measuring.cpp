@@ -29,6 +29,12 @@ int Excess(const Measurement& measurement, int countsPerG)
         {std::abs(measurement.x), std::abs(measurement.y), std::abs(measurement.z - countsPerG)});
 }
 
+void BeginRun(RecorderState& state, RecorderSeconds from)
+{
+    state.runningSince = from;
+    state.noted = 0;
+}
+
 class CNotes
 {
 public:
@@ -73,7 +79,7 @@ void BeginAlone(RecorderState& state, RecorderSeconds clock)
     if (NeedsMagnet(state))
         return;
     const int delay = state.type == OldestType ? 0 : state.conditions.startOption;
-    state.runningSince = state.reservation ? std::max(clock, *state.reservation) : clock + delay;
+    BeginRun(state, state.reservation ? std::max(clock, *state.reservation) : clock + delay);
 }
 
 void MoveMagnet(RecorderState& state, bool isNear, RecorderSeconds clock)
@@ -99,7 +105,7 @@ void MoveMagnet(RecorderState& state, bool isNear, RecorderSeconds clock)
     if (!runs)
         state.runningSince.reset();
     else if (!isRunning)
-        state.runningSince = std::max(clock, state.reservation.value_or(clock));
+        BeginRun(state, std::max(clock, state.reservation.value_or(clock)));
 }
 
 void NoteDown(RecorderState& state, RecorderSeconds clock)
@@ -107,25 +113,29 @@ void NoteDown(RecorderState& state, RecorderSeconds clock)
     if (state.phase != RecorderPhase::Measuring || !state.runningSince)
         return;
     const RecorderSeconds interval = IntervalSeconds(state.conditions.interval);
-    RecorderSeconds& due = *state.runningSince;
+    const RecorderSeconds since = *state.runningSince;
+    if (clock < since)
+        return;
+    const std::int64_t last = (clock - since) / interval;
     // What an endless measurement would have lost again by now is not noted down at all.
-    const auto capacity = static_cast<RecorderSeconds>(state.capacity);
-    const RecorderSeconds elapsed = (clock - due) / interval;
-    if (state.conditions.endless && elapsed > capacity)
-        due += (elapsed - capacity) * interval;
+    if (state.conditions.endless)
+        state.noted = std::max(state.noted, last - static_cast<std::int64_t>(state.capacity));
     const CSurroundings surroundings(state.seed, state.Model().countsPerG, interval * 100);
     const int threshold = state.conditions.threshold;
     CNotes notes(state);
-    for (; due <= clock; due += interval) {
-        Measurement measurement = surroundings.At(due * 100);
+    for (; state.noted <= last; ++state.noted) {
+        const Measurement measurement = surroundings.At((since + state.noted * interval) * 100);
+        const bool isExcess =
+            threshold > 0 && Excess(measurement, state.Model().countsPerG) > threshold;
+        if (isExcess && state.noted > 0) {
+            // It fell somewhere into the interval that ends now.
+            Measurement knock = measurement;
+            knock.centiseconds -= interval * 63;
+            if (!notes.Add(knock))
+                return;
+        }
         if (!notes.Add(measurement))
             return;
-        if (threshold == 0 || Excess(measurement, state.Model().countsPerG) <= threshold)
-            continue;
-        // The excess falls somewhere into the interval.
-        measurement.centiseconds += interval * 37;
-        if (measurement.centiseconds <= clock * 100)
-            (void)notes.Add(measurement);
     }
 }
 

@@ -47,8 +47,9 @@ struct RecorderState
     RecorderSeconds begun = 0;
     RecorderPhase phase = RecorderPhase::Idle;
     std::optional<RecorderSeconds> reservation;
-    /// Since when lines are being noted down, and none yet.
+    /// Since when lines are being noted down, and for how many intervals that has been done.
     std::optional<RecorderSeconds> runningSince;
+    std::int64_t noted = 0;
     /// Whether a measurement under a magnet has begun at all, and whether it is over.
     bool magnetSeen = false;
     bool over = false;

@@ -103,6 +103,7 @@ private:
                (key == "begun" && Time(value, m_state.begun)) ||
                (key == "reservation" && Time(value, m_state.reservation)) ||
                (key == "running" && Time(value, m_state.runningSince)) ||
+               (key == "noted" && Number(value, 0, MostNumber, m_state.noted)) ||
                (key == "magnet-seen" && Flag(value, m_state.magnetSeen)) ||
                (key == "over" && Flag(value, m_state.over));
     }
@@ -183,6 +184,7 @@ std::string StateText(const RecorderState& state, CalendarSeconds now)
     AppendKey(text, "phase", std::string(PhaseWords[static_cast<std::size_t>(state.phase)]));
     time("reservation", state.reservation);
     time("running", state.runningSince);
+    number("noted", state.noted);
     number("magnet-seen", int{state.magnetSeen});
     number("over", int{state.over});
     number("lines", state.memory.Count());

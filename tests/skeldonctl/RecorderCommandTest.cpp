@@ -142,6 +142,68 @@ TEST_F(RecorderCommand, AnEmptyRecorderIsNoFailureAndLeavesNoFile)
     EXPECT_EQ(json.value("expected", -1), 0);
 }
 
+TEST_F(RecorderCommand, FewerLinesThanAnnouncedAreKeptWithStatusFour)
+{
+    const auto simulator = Simulator({"--alpha", "--lines", "50", "--fault", "too-few=20"});
+    const Outcome outcome = OnPort({"get", "-o", m_data, "--csv", m_csv, "--json"});
+    EXPECT_EQ(outcome.status, 4);
+    EXPECT_NE(outcome.err.find("Failed to get the data"), std::string::npos);
+    EXPECT_EQ(JsonOf(outcome).value("records", 0), 30);
+    EXPECT_EQ(JsonOf(outcome).value("expected", 0), 50);
+    EXPECT_EQ(JsonOf(Tool({"info", m_data, "--json"})).value("records", 0), 30);
+    EXPECT_EQ(std::ranges::count(ReadText(m_csv), '\n'), 31);
+}
+
+TEST_F(RecorderCommand, NoLinesOfThoseAnnouncedLeaveEarlierFilesAlone)
+{
+    const auto simulator = Simulator({"--alpha", "--lines", "5", "--fault", "too-few=5"});
+    WriteText(m_data, "earlier");
+    const Outcome outcome = OnPort({"get", "-o", m_data});
+    EXPECT_EQ(outcome.status, 4);
+    EXPECT_NE(outcome.err.find("No measured data is available."), std::string::npos);
+    EXPECT_EQ(ReadText(m_data), "earlier");
+}
+
+TEST_F(RecorderCommand, ACableThatIsPulledInMidTransferLeavesWhatArrived)
+{
+    const auto simulator =
+        Simulator({"--alpha", "--lines", "5000", "--fault", "pull-after=11000", "--rate", "real"});
+    const Outcome outcome = OnPort({"get", "-o", m_data, "--json"});
+    EXPECT_EQ(outcome.status, 4);
+    const int records = JsonOf(outcome).value("records", 0);
+    EXPECT_GT(records, 0);
+    EXPECT_LE(records, 500);
+    EXPECT_EQ(JsonOf(Tool({"info", m_data, "--json"})).value("records", 0), records);
+}
+
+TEST_F(RecorderCommand, ALineThatIsCutShortIsAbnormalWithAllBehindIt)
+{
+    const auto simulator = Simulator({"--alpha", "--lines", "10", "--fault", "short-line=6:6"});
+    const nlohmann::json json = JsonOf(OnPort({"get", "--json", "--records"}));
+    ASSERT_EQ(json.value("records", 0), 10);
+    for (std::size_t i = 0; i < 10; ++i)
+        EXPECT_EQ((json["lines"][i][8].get<int>() & 0x4000) != 0, i >= 6) << i;
+}
+
+TEST_F(RecorderCommand, LinesBehindATurnOfTheYearMoveIntoTheNextByTheReportsDate)
+{
+    const auto simulator = Simulator({"--alpha", "--lines", "100", "--from", "2024-12-20 12:00:00",
+                                      "--clock", "2024-12-20 12:00:00", "--fault", "new-year=40"});
+    const nlohmann::json json = JsonOf(OnPort({"get", "--json", "--records"}));
+    ASSERT_EQ(json.value("records", 0), 100);
+    EXPECT_EQ(json.value("badTime", true), false);
+    EXPECT_EQ(json.value("firstBreak", 0), 100);
+    EXPECT_LT(json["lines"][39][0].get<std::int64_t>(), json["lines"][40][0].get<std::int64_t>());
+}
+
+TEST_F(RecorderCommand, ASilentRecorderIsNone)
+{
+    const auto simulator = Simulator({"--lines", "5", "--fault", "silence=p"});
+    const Outcome outcome = OnPort({"status"});
+    EXPECT_EQ(outcome.status, 3);
+    EXPECT_NE(outcome.err.find("no status report"), std::string::npos);
+}
+
 TEST_F(RecorderCommand, AMissingFolderIsToldBeforeTheRecorderIsRead)
 {
     const auto simulator = Simulator({"--lines", "10"});

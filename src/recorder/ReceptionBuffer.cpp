@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 
 namespace skeldon {
 
@@ -17,6 +18,7 @@ void CReceptionBuffer::Free()
 {
     const std::lock_guard guard(m_rxLock);
     m_rxBuffer.clear();
+    m_spare.reset();
     m_rxCapacity = 0;
     m_rxWrite = 0;
     m_rxRead = 0;
@@ -26,19 +28,23 @@ void CReceptionBuffer::Free()
 
 void CReceptionBuffer::Append(std::string_view bytes)
 {
+    bool isEnough = false;
     {
         const std::lock_guard guard(m_rxLock);
         while (!bytes.empty()) {
             const auto inBlock = static_cast<std::size_t>(m_rxWrite % BlockSize);
             if (m_rxWrite == m_rxFreed + m_rxBuffer.size() * BlockSize)
-                m_rxBuffer.push_back(std::make_unique_for_overwrite<Block>());
+                m_rxBuffer.push_back(m_spare ? std::move(m_spare)
+                                             : std::make_unique_for_overwrite<Block>());
             const std::size_t count = std::min(bytes.size(), BlockSize - inBlock);
             std::memcpy(m_rxBuffer.back()->data() + inBlock, bytes.data(), count);
             m_rxWrite += count;
             bytes.remove_prefix(count);
         }
+        isEnough = HasArrived();
     }
-    m_rxArrived.notify_one();
+    if (isEnough)
+        m_rxArrived.notify_one();
 }
 
 void CReceptionBuffer::Finish()
@@ -65,7 +71,13 @@ std::uint64_t CReceptionBuffer::GetWritten() const
 std::string_view CReceptionBuffer::NextChunk()
 {
     std::unique_lock guard(m_rxLock);
-    m_rxArrived.wait(guard, [this] { return m_rxWrite > m_rxRead || m_finished; });
+    const auto hasArrived = [this] { return HasArrived(); };
+    if (m_rxWrite == m_rxRead) {
+        m_rxWanted = 1;
+        m_rxArrived.wait(guard, hasArrived);
+        m_rxWanted = GatheredSize;
+        m_rxArrived.wait_for(guard, GatherTime, hasArrived);
+    }
     return m_rxWrite > m_rxRead ? TakeChunk() : std::string_view("#");
 }
 
@@ -83,6 +95,7 @@ std::string CReceptionBuffer::TakeAll()
 std::string_view CReceptionBuffer::TakeChunk()
 {
     if (m_rxRead - m_rxFreed == BlockSize) {
+        m_spare = std::move(m_rxBuffer.front());
         m_rxBuffer.pop_front();
         m_rxFreed += BlockSize;
     }

@@ -3,6 +3,7 @@
 #include "recorder/ByteStream.h"
 
 #include <array>
+#include <chrono>
 #include <condition_variable>
 #include <cstddef>
 #include <cstdint>
@@ -41,17 +42,27 @@ public:
 
 private:
     static constexpr std::size_t BlockSize = 65536;
+    // A reader that has used up all it had lets that much gather, for at most that long, before it
+    // goes on: on a fast wire it would be woken for every few bytes.
+    static constexpr std::uint64_t GatheredSize = 32768;
+    static constexpr std::chrono::milliseconds GatherTime{10};
     using Block = std::array<char, BlockSize>;
 
     [[nodiscard]] std::string_view TakeChunk();
+    [[nodiscard]] bool HasArrived() const
+    {
+        return m_rxWrite - m_rxRead >= m_rxWanted || m_finished;
+    }
 
     mutable std::mutex m_rxLock;
     std::condition_variable m_rxArrived;
     std::deque<std::unique_ptr<Block>> m_rxBuffer; ///< the first block holds the byte `m_rxRead`
+    std::unique_ptr<Block> m_spare;                ///< a block given back, for the next one
     std::uint64_t m_rxCapacity = 0;
-    std::uint64_t m_rxWrite = 0; ///< bytes stored so far
-    std::uint64_t m_rxRead = 0;  ///< bytes handed out so far
-    std::uint64_t m_rxFreed = 0; ///< bytes in blocks given back; a multiple of the block size
+    std::uint64_t m_rxWrite = 0;  ///< bytes stored so far
+    std::uint64_t m_rxRead = 0;   ///< bytes handed out so far
+    std::uint64_t m_rxWanted = 1; ///< bytes that a sleeping reader is woken for
+    std::uint64_t m_rxFreed = 0;  ///< bytes in blocks given back; a multiple of the block size
     bool m_finished = true;
 };
 

@@ -41,7 +41,11 @@ std::optional<std::int64_t> CCable::NextUs(const CSimulatedRecorder& recorder) c
 bool CCable::Exchange(CSimulatedRecorder& recorder, CTraceFile& trace, SimulationTime time,
                       std::error_code& error)
 {
-    // First who has the port open: bytes of a host are never older than its opening.
+    std::array<char, 4096> buffer{};
+    const CPseudoTerminal::Transfer read = m_terminal->Read(buffer);
+    error = read.error;
+    // Looked at behind the reading: the bytes may be those of a host that opened the port since the
+    // last look, and what is thrown away for the one before must not be the answer to this one.
     const bool isClosed = m_host.Update();
     if (isClosed) {
         trace.Event(time.realUs, "host closed the port");
@@ -49,21 +53,19 @@ bool CCable::Exchange(CSimulatedRecorder& recorder, CTraceFile& trace, Simulatio
             recorder.LoseOutput();
         m_terminal->ResetAfterClose();
     }
-    Read(recorder, trace, time, error);
-    Write(recorder, trace, time, error);
-    return isClosed;
-}
-
-void CCable::Read(CSimulatedRecorder& recorder, CTraceFile& trace, SimulationTime time,
-                  std::error_code& error)
-{
-    std::array<char, 4096> buffer{};
-    const CPseudoTerminal::Transfer read = m_terminal->Read(buffer);
-    error = read.error;
     const std::string_view bytes(buffer.data(), read.count);
     trace.Bytes(time.realUs, TraceDirection::FromHost, bytes);
     if (!bytes.empty())
         recorder.Receive(bytes, time.recorderMs);
+    if (!error)
+        Write(recorder, trace, time, error);
+    return isClosed;
+}
+
+void CCable::Settle()
+{
+    if (m_host.IsOpen())
+        m_terminal->WaitUntilRead();
 }
 
 void CCable::Write(CSimulatedRecorder& recorder, CTraceFile& trace, SimulationTime time,

@@ -43,11 +43,12 @@ public:
     [[nodiscard]] bool Exchange(CSimulatedRecorder& recorder, CTraceFile& trace,
                                 SimulationTime time, std::error_code& error);
 
+    /// Lets the host read what has gone out before the cable is pulled.
+    void Settle();
+
 private:
     CCable(std::unique_ptr<CPseudoTerminal> terminal, std::int64_t bytesPerSecond);
 
-    void Read(CSimulatedRecorder& recorder, CTraceFile& trace, SimulationTime time,
-              std::error_code& error);
     void Write(CSimulatedRecorder& recorder, CTraceFile& trace, SimulationTime time,
                std::error_code& error);
 

@@ -5,6 +5,7 @@
 #include <cstdlib>
 
 #include <fcntl.h>
+#include <poll.h>
 #include <sys/ioctl.h>
 #include <termios.h>
 
@@ -72,9 +73,27 @@ CPseudoTerminal::Transfer CPseudoTerminal::Write(std::string_view bytes)
     return Result(::write(m_master.Get(), bytes.data(), bytes.size()));
 }
 
+void CPseudoTerminal::WaitUntilRead()
+{
+    constexpr int RoundMs = 5;
+    constexpr int MostRounds = 200;
+    // Bytes take a moment from one end to the other, so that one look at an empty end says nothing.
+    constexpr int EmptyLooks = 3;
+    int empty = 0;
+    for (int round = 0; round < MostRounds && empty < EmptyLooks; ++round) {
+        int queued = 0;
+        if (::ioctl(m_slave.Get(), FIONREAD, &queued) != 0)
+            return;
+        empty = queued == 0 ? empty + 1 : 0;
+        (void)::poll(nullptr, 0, RoundMs);
+    }
+}
+
 void CPseudoTerminal::ResetAfterClose()
 {
     (void)::ioctl(m_slave.Get(), TIOCNXCL);
+    // First what is on its way, then what has arrived.
+    (void)::tcflush(m_master.Get(), TCOFLUSH);
     (void)::tcflush(m_slave.Get(), TCIFLUSH);
 }
 

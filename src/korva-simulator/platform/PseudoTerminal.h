@@ -32,6 +32,9 @@ public:
 
     [[nodiscard]] Transfer Read(std::span<char> buffer);
     [[nodiscard]] Transfer Write(std::string_view bytes);
+    /// Waits until the host has read what was written, for a second at most: closing this end takes
+    /// the rest away.
+    void WaitUntilRead();
     /// What a port does when its last user closes it: bytes nobody has read are gone, and a host
     /// that died while it had the port to itself does not keep others out.
     void ResetAfterClose();

@@ -88,10 +88,12 @@ void CSimulatorLoop::Serve()
     const bool isClosed = m_cable->Exchange(m_recorder, m_trace, Time(), error);
     if (error)
         Fail(m_cable->Name(), error);
-    if (m_recorder.HasPullRequest())
+    if (m_recorder.HasPullRequest()) {
+        m_cable->Settle();
         Pull();
-    else if (isClosed)
+    } else if (isClosed) {
         Save();
+    }
 }
 
 bool CSimulatorLoop::Wait()

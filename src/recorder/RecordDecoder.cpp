@@ -185,9 +185,9 @@ CRecordDecoder::PlainLine CRecordDecoder::DecodePlainLine(const char* text, CMea
 
 inline CalendarSeconds CRecordDecoder::TimeOf(std::uint32_t stamp, bool& isValid)
 {
-    const unsigned hour = stamp >> 16 & 0x1F;
-    const unsigned minute = stamp >> 10 & 0x3F;
-    const unsigned second = stamp >> 4 & 0x3F;
+    const CalendarSeconds hour = stamp >> 16 & 0x1F;
+    const CalendarSeconds minute = stamp >> 10 & 0x3F;
+    const CalendarSeconds second = stamp >> 4 & 0x3F;
     isValid = hour < 24 && minute < 60 && second < 60;
     if (!isValid || (stamp & MonthAndDay) != m_dayBits)
         return TimeOnAnotherDay(stamp, isValid);

@@ -22,7 +22,7 @@ bool CRecordStream::NextRecord(CMeasureRecord& record)
     if (plain != PlainLine::NotPlain) {
         m_reader.SkipPlainLine(full);
     } else {
-        std::array<char, MostLineDigits + 2> line;
+        std::array<char, MostLineDigits + 2> line{};
         const std::size_t length = m_reader.ReadLine(line.data(), m_decoder.MostDigits());
         if (length == 0)
             return false;

@@ -58,6 +58,7 @@ bool CRecorderLink::WriteConditions(const CMeasureCondition& condition)
     return true;
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): a start works on a snapshot
 bool CRecorderLink::StartMeasuring(CMeasureCondition condition, bool setClock)
 {
     if (!WriteConditions(condition))

@@ -69,7 +69,8 @@ bool CRecorderLink::StartOnline(std::uint32_t lines)
     m_records.reset();
     m_rxBuffer.Start(lines * OnlineLineBytes + SpareBytes);
     if (!SendText("x")) {
-        EndTransfer();
+        m_rxBuffer.Free();
+        ClosePort();
         return false;
     }
     m_onlineStart = Clock().Now();

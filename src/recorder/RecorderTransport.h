@@ -54,7 +54,7 @@ public:
     bool DrainPort();
 
     /// Why the port could not be opened or written the last time it was tried; clear where that
-    /// went well.
+    /// went well. Not to be asked while a transfer runs.
     [[nodiscard]] std::error_code LastError() const { return m_error; }
 
     /// Sets the window that traffic is reported to; the link owns it.

@@ -232,7 +232,9 @@ TEST_F(Online, LeavesNothingBehindWhereItCanNotStart)
     Run(1);
     m_link.m_timedOut = true;
     m_recorder.m_failWriteOf = "x";
+    Watch();
     EXPECT_FALSE(m_link.StartOnline(100));
+    EXPECT_EQ(m_traffic.m_log, "[x]");
     EXPECT_FALSE(m_link.IsOpen());
     EXPECT_FALSE(m_link.m_busy);
     EXPECT_FALSE(m_link.m_timedOut);

@@ -38,11 +38,16 @@ std::error_code HungUp()
     return SystemError(EIO);
 }
 
-/// Waits until the descriptor is ready for `events`. 0 when the time is over, below 0 on a failure.
-int WaitFor(int descriptor, short events, int milliseconds)
+using Clock = std::chrono::steady_clock;
+
+Clock::time_point FromNow(int milliseconds)
 {
-    using Clock = std::chrono::steady_clock;
-    const auto end = Clock::now() + std::chrono::milliseconds(milliseconds);
+    return Clock::now() + std::chrono::milliseconds(milliseconds);
+}
+
+/// Waits until the descriptor is ready for `events`. 0 when the time is over, below 0 on a failure.
+int WaitFor(int descriptor, short events, Clock::time_point end)
+{
     pollfd entry{descriptor, events, 0};
     for (;;) {
         const auto left = std::chrono::ceil<std::chrono::milliseconds>(end - Clock::now()).count();
@@ -110,7 +115,8 @@ CPosixSerialPort::~CPosixSerialPort()
 
 CSerialPort::Transfer CPosixSerialPort::Read(std::span<char> buffer)
 {
-    for (bool waited = false;; waited = true) {
+    std::optional<Clock::time_point> end; // looked up only where there is something to wait for
+    for (;;) {
         const ssize_t count = ::read(m_descriptor, buffer.data(), buffer.size());
         if (count > 0)
             return {static_cast<std::size_t>(count), {}};
@@ -120,13 +126,11 @@ CSerialPort::Transfer CPosixSerialPort::Read(std::span<char> buffer)
             continue;
         if (!WouldBlock())
             return {0, LastSystemError()};
-        if (waited)
-            return {0, {}};
-        const int ready = WaitFor(m_descriptor, POLLIN, SerialSetting::ReadWaitMs);
-        if (ready < 0)
-            return {0, LastSystemError()};
-        if (ready == 0)
-            return {0, {}};
+        if (!end)
+            end = FromNow(SerialSetting::ReadWaitMs);
+        const int ready = WaitFor(m_descriptor, POLLIN, *end);
+        if (ready <= 0)
+            return {0, ready == 0 ? std::error_code() : LastSystemError()};
     }
 }
 
@@ -139,7 +143,7 @@ CSerialPort::Transfer CPosixSerialPort::Write(std::string_view bytes)
         if (count > 0) {
             written.count += static_cast<std::size_t>(count);
         } else if (count == 0 || WouldBlock()) {
-            const int ready = WaitFor(m_descriptor, POLLOUT, WriteWaitMs);
+            const int ready = WaitFor(m_descriptor, POLLOUT, FromNow(WriteWaitMs));
             if (ready <= 0) {
                 written.error = ready == 0 ? SystemError(ETIMEDOUT) : LastSystemError();
                 return written;

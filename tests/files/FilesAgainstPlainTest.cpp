@@ -34,7 +34,7 @@ TEST(ReadFileAgainstPlain, ReadsThousandsOfOddFilesAlike)
 {
     const CTempFolder folder;
     int good = 0;
-    for (std::uint64_t seed = 1; seed <= 2500; ++seed) {
+    for (std::uint64_t seed = 1; seed <= 2000; ++seed) {
         SCOPED_TRACE(seed);
         const CZoneScope zone(Zone::All[seed % std::size(Zone::All)]);
         CRandomFiles random(seed);
@@ -53,16 +53,17 @@ TEST(ReadFileAgainstPlain, ReadsThousandsOfOddFilesAlike)
 TEST(ReadFileAgainstPlain, ReadsFilesOfManyBlocksAlike)
 {
     const CTempFolder folder;
-    for (std::uint64_t seed = 1; seed <= 6; ++seed) {
+    for (std::uint64_t seed = 1; seed <= 4; ++seed) {
         SCOPED_TRACE(seed);
         CRandomFiles random(seed);
         std::string text = random.Text(24000, seed % 2 == 0 ? 1000 : 20);
-        if (seed >= 5) {
+        if (seed >= 3) {
             // A line longer than a block that says nothing, and a record without an end.
             text.insert(text.find("<record>", text.size() / 3), std::string(1'300'000, '<') + "\n");
             text.insert(text.find("<x>", text.size() / 4 * 3), "<record>\r\n");
         }
-        EXPECT_TRUE(ReadBothWays(folder / "a.skd", text) || text.size() < 5'000'000);
+        ASSERT_GT(text.size(), 4'500'000U); // so that a second thread takes part
+        EXPECT_TRUE(ReadBothWays(folder / "a.skd", text));
         if (HasFailure())
             return;
     }

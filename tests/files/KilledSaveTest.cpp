@@ -95,7 +95,7 @@ TEST(KilledSave, LeavesAWholeFileAtAnyRandomMoment)
     ASSERT_FALSE(WriteFile(pair.first, path, 0));
     std::mt19937_64 random(11);
     int interrupted = 0;
-    for (int round = 0; round < 120; ++round) {
+    for (int round = 0; round < 100; ++round) {
         SCOPED_TRACE(round);
         const pid_t child = ::fork();
         ASSERT_GE(child, 0);
@@ -105,7 +105,7 @@ TEST(KilledSave, LeavesAWholeFileAtAnyRandomMoment)
                     ::_exit(1);
             }
         }
-        std::this_thread::sleep_for(std::chrono::microseconds(random() % 40'000));
+        std::this_thread::sleep_for(std::chrono::microseconds(random() % 25'000));
         ASSERT_EQ(::kill(child, SIGKILL), 0);
         int status = 0;
         ASSERT_EQ(::waitpid(child, &status, 0), child);

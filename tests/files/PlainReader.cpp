@@ -36,23 +36,29 @@ std::vector<std::string> LinesOf(std::string_view bytes)
     return lines;
 }
 
-std::string Lower(std::string text)
+char Lower(char c)
 {
-    for (char& c : text) {
-        if (c >= 'A' && c <= 'Z')
-            c = static_cast<char>(std::tolower(c));
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(std::tolower(c)) : c;
+}
+
+/// Whether `tag` stands in `line` at `at`, in any letter case.
+bool StandsAt(const std::string& line, std::size_t at, std::string_view tag)
+{
+    for (std::size_t i = 0; i < tag.size(); ++i) {
+        if (at + i >= line.size() || Lower(line[at + i]) != Lower(tag[i]))
+            return false;
     }
-    return text;
+    return true;
 }
 
-bool Starts(const std::string& line, const std::string& tag)
+bool Starts(const std::string& line, std::string_view tag)
 {
-    return line.size() >= tag.size() && Lower(line.substr(0, tag.size())) == Lower(tag);
+    return StandsAt(line, 0, tag);
 }
 
-bool Ends(const std::string& line, const std::string& tag)
+bool Ends(const std::string& line, std::string_view tag)
 {
-    return line.size() >= tag.size() && Lower(line.substr(line.size() - tag.size())) == Lower(tag);
+    return line.size() >= tag.size() && StandsAt(line, line.size() - tag.size(), tag);
 }
 
 bool IsElement(const std::string& line, const std::string& name)

@@ -61,7 +61,7 @@ TEST(ExtractConditions, CountAMissingTokenAsZero)
 {
     struct Case
     {
-        const char* text;
+        const char* text = "";
         ExtractCondition entry;
     };
     const Case cases[] = {

@@ -21,8 +21,11 @@ bool IsBreak(char c)
 /// The offset of the line's end, where its break stands if it has one.
 std::size_t EndOfLine(std::string_view text, std::size_t begin)
 {
-    const auto from = text.begin() + static_cast<std::ptrdiff_t>(begin);
-    return static_cast<std::size_t>(std::find_if(from, text.end(), IsBreak) - text.begin());
+    const char* at = text.data() + begin;
+    const char* const end = text.data() + text.size();
+    while (at != end && !IsBreak(*at))
+        ++at;
+    return static_cast<std::size_t>(at - text.data());
 }
 
 /// The offset behind the break that stands at `end`.

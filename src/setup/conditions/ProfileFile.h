@@ -11,7 +11,7 @@ namespace skeldon {
 
 /// What of a profile file is read: a thousand times what the program writes. A larger one can be
 /// read, as far as that, but not be written, since what lies behind would be lost.
-inline constexpr std::size_t ProfileSizeLimit = 4 * 1024 * 1024;
+inline constexpr std::size_t ProfileSizeLimit = std::size_t{4} * 1024 * 1024;
 
 /// Sets conditions and keep-mode block from the text of a profile. Nothing in it can be refused:
 /// what is missing or malformed has its fallback, and values beyond their limits are clamped.

@@ -32,7 +32,7 @@ std::vector<FitStep> Fit(CMeasureCondition& condition, const RecorderFacts& reco
 std::vector<FitStep> Accept(CMeasureCondition& condition, const RecorderFacts& recorder)
 {
     bool isRefused = true;
-    const std::vector<FitStep> steps = Fit(condition, recorder, true, &isRefused);
+    std::vector<FitStep> steps = Fit(condition, recorder, true, &isRefused);
     EXPECT_FALSE(isRefused);
     return steps;
 }
@@ -228,8 +228,8 @@ TEST(FitText, NamesWhatDoesNotSuitAndTheValueThatWould)
     struct Case
     {
         FitStep step;
-        const char* reason;
-        const char* offer;
+        const char* reason = "";
+        const char* offer = "";
     };
     const Case cases[] = {
         {{FitCode::SamplingUnusable, 4},

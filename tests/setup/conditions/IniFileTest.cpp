@@ -245,7 +245,7 @@ std::string RandomText(std::mt19937& random)
 TEST(IniFileSet, GivesBackWhatWasSetInAnyText)
 {
     std::mt19937 random(7); // NOLINT(cert-msc51-cpp)
-    for (int round = 0; round < 5000; ++round) {
+    for (int round = 0; round < 1500; ++round) {
         const std::string text = RandomText(random);
         CIniFile file(text);
         ASSERT_EQ(file.Text(), text);
@@ -269,7 +269,7 @@ TEST(IniFileSet, GivesBackWhatWasSetInAnyText)
 TEST(IniFileSet, LeavesTheOtherKeysOfAnyTextAlone)
 {
     std::mt19937 random(8); // NOLINT(cert-msc51-cpp)
-    for (int round = 0; round < 5000; ++round) {
+    for (int round = 0; round < 1500; ++round) {
         const std::string text = RandomText(random);
         const CIniFile before(text);
         CIniFile file(text);

@@ -238,9 +238,9 @@ TEST(MeasureCondition, MovesALevelOffTheScaleByTheSameSteps)
 struct LevelCase
 {
     RecorderFacts recorder;
-    int level;
-    LevelFit fit;
-    int value;
+    int level = 0;
+    LevelFit fit = LevelFit::Usable;
+    int value = 0;
 };
 
 TEST(CheckThreshold, HoldsTheLevelAgainstTheRecordersReachAndStep)

@@ -288,7 +288,7 @@ TEST(ProfileText, GivesBackAnyConditions)
 {
     std::mt19937 random(11); // NOLINT(cert-msc51-cpp)
     std::string text;
-    for (int round = 0; round < 2000; ++round) {
+    for (int round = 0; round < 500; ++round) {
         const CMeasureCondition condition = RandomCondition(random);
         text = WriteProfileText(condition, text); // over what the last one left
         const CMeasureCondition read = Read(text);
@@ -302,7 +302,7 @@ TEST(ReadProfileText, KeepsEveryValueWithinItsLimitsForAnyBytes)
 {
     std::mt19937 random(12); // NOLINT(cert-msc51-cpp)
     const std::string written = UnusualText;
-    for (int round = 0; round < 3000; ++round) {
+    for (int round = 0; round < 700; ++round) {
         std::string text = written;
         for (auto n = random() % 20; n > 0; --n)
             text[random() % text.size()] = static_cast<char>(random() % 256);

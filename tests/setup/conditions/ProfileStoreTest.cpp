@@ -31,6 +31,7 @@ protected:
     [[nodiscard]] std::vector<std::string> Names() const
     {
         std::vector<std::string> names;
+        names.reserve(static_cast<std::size_t>(m_store.GetCount()));
         for (int i = 0; i < m_store.GetCount(); ++i)
             names.push_back(m_store.GetAt(i).ProfileName);
         return names;
@@ -66,6 +67,7 @@ TEST_F(ProfileStoreTest, OrdersNamesThatDifferInCaseByTheirBytes)
         Put(name, "");
     m_store.Load(false);
     std::vector<std::string> files;
+    files.reserve(static_cast<std::size_t>(m_store.GetCount()));
     for (int i = 0; i < m_store.GetCount(); ++i)
         files.push_back(m_store.GetAt(i).FilePath.filename().string());
     EXPECT_THAT(files, ElementsAre("A.SKP", "A.skp", "a.Skp", "a.skp"));

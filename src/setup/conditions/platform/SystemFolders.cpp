@@ -18,7 +18,7 @@ namespace fs = std::filesystem;
 namespace {
 
 /// More than any "user-dirs.dirs" holds; what lies behind it does not count.
-constexpr std::size_t UserDirsLimit = 64 * 1024;
+constexpr std::size_t UserDirsLimit = std::size_t{64} * 1024;
 
 /// The variable's value where it is an absolute path, else nothing: a relative one would lead
 /// elsewhere each time.
@@ -34,7 +34,7 @@ fs::path HomeFolder()
     fs::path home = AbsoluteFromEnvironment("HOME");
     if (!home.empty())
         return home;
-    std::array<char, 16 * 1024> buffer{};
+    std::array<char, std::size_t{16} * 1024> buffer{};
     passwd entry{};
     passwd* found = nullptr;
     if (::getpwuid_r(::getuid(), &entry, buffer.data(), buffer.size(), &found) != 0 ||

@@ -17,7 +17,7 @@ namespace {
 constexpr int MostLinks = 40; // as the system itself follows at most
 constexpr int MostPassingNames = 100;
 constexpr mode_t Permissions = 07777;
-constexpr std::size_t ReadStep = 16 * 1024;
+constexpr std::size_t ReadStep = std::size_t{16} * 1024;
 
 std::error_code LastError()
 {

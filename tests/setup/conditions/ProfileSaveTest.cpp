@@ -218,6 +218,55 @@ TEST(SaveProfile, FailsWithTheSystemsReason)
     EXPECT_EQ(SaveProfile(longName, folder.Path()), std::errc::filename_too_long);
 }
 
+TEST(SaveProfile, DoesNotReplaceAFileThatMayNotBeWritten)
+{
+    const CTestFolder folder;
+    SetMode(folder.Path(), 0777);
+    WriteBytes(folder / "A.skp", "[Configuration]\nThreshold=1\n");
+    SetMode(folder / "A.skp", 0444);
+    CMeasureCondition condition = Named("A", 2);
+    {
+        const CPlainUser user;
+        EXPECT_EQ(SaveProfile(condition, folder.Path()), std::errc::permission_denied);
+    }
+    EXPECT_EQ(ThresholdOf(folder / "A.skp"), 1);
+    EXPECT_EQ(folder.Count(), 1);
+}
+
+TEST(SaveProfile, FailsInAReadOnlyFolder)
+{
+    const CTestFolder folder;
+    WriteBytes(folder / "A.skp", "[Configuration]\nThreshold=1\n");
+    SetMode(folder / "A.skp", 0666);
+    SetMode(folder.Path(), 0555);
+    CMeasureCondition old = Named("A", 2);
+    CMeasureCondition fresh = Named("B", 2);
+    {
+        const CPlainUser user;
+        EXPECT_EQ(SaveProfile(old, folder.Path()), std::errc::permission_denied);
+        EXPECT_EQ(SaveProfile(fresh, folder.Path()), std::errc::permission_denied);
+    }
+    SetMode(folder.Path(), 0755);
+    EXPECT_EQ(fresh.FilePath, folder / "B.skp"); // where it was to be written
+    EXPECT_EQ(ThresholdOf(folder / "A.skp"), 1);
+    EXPECT_EQ(folder.Count(), 1);
+}
+
+TEST(SaveProfile, DoesNotReplaceAFileThatItCanNotRead)
+{
+    const CTestFolder folder;
+    SetMode(folder.Path(), 0777);
+    WriteBytes(folder / "A.skp", "[Own]\nB=2\n");
+    SetMode(folder / "A.skp", 0222);
+    CMeasureCondition condition = Named("A", 2);
+    {
+        const CPlainUser user;
+        EXPECT_EQ(SaveProfile(condition, folder.Path()), std::errc::permission_denied);
+    }
+    SetMode(folder / "A.skp", 0644);
+    EXPECT_EQ(ReadBytes(folder / "A.skp"), "[Own]\nB=2\n");
+}
+
 TEST(SaveProfile, TakesANameOfTheGreatestLength)
 {
     const CTestFolder folder;
@@ -288,6 +337,21 @@ TEST(LoadProfile, GivesTheNameAndTheReasonOfAFileThatCanNotBeRead)
     EXPECT_EQ(LoadProfile(folder / "A.skp", condition), std::errc::io_error);
     EXPECT_EQ(condition.ProfileName, "A");
     EXPECT_EQ(condition.GetSampling(), 6);
+    EXPECT_EQ(condition.Threshold, 0);
+}
+
+TEST(LoadProfile, TellsThatAFileMayNotBeRead)
+{
+    const CTestFolder folder;
+    SetMode(folder.Path(), 0755);
+    WriteBytes(folder / "A.skp", "[Configuration]\nThreshold=9\n");
+    SetMode(folder / "A.skp", 0000);
+    CMeasureCondition condition = Named("Before", 5);
+    {
+        const CPlainUser user;
+        EXPECT_EQ(LoadProfile(folder / "A.skp", condition), std::errc::permission_denied);
+    }
+    EXPECT_EQ(condition.ProfileName, "A");
     EXPECT_EQ(condition.Threshold, 0);
 }
 

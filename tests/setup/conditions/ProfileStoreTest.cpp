@@ -254,6 +254,21 @@ TEST_F(ProfileStoreTest, KeepsEntryAndFileWhenADeleteFails)
     EXPECT_TRUE(fs::is_directory(m_folder / "P/a.skp"));
 }
 
+TEST_F(ProfileStoreTest, TellsWhyAFileOfAReadOnlyFolderStays)
+{
+    Put("a.skp", "");
+    m_store.Load(false);
+    SetMode(m_folder.Path(), 0755);
+    SetMode(m_folder / "P", 0555);
+    {
+        const CPlainUser user;
+        EXPECT_EQ(m_store.RemoveAt(0), std::errc::permission_denied);
+    }
+    SetMode(m_folder / "P", 0755);
+    EXPECT_THAT(Names(), ElementsAre("a"));
+    EXPECT_TRUE(fs::exists(m_folder / "P/a.skp"));
+}
+
 TEST_F(ProfileStoreTest, FindsTheFirstEntryOfAHostNumber)
 {
     EXPECT_EQ(m_store.FindByHostId(0), -1);

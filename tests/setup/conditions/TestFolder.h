@@ -7,6 +7,8 @@
 #include <string>
 #include <string_view>
 
+#include <unistd.h>
+
 namespace skeldon {
 
 /// A folder of one test's own, gone with everything in it at the test's end.
@@ -40,6 +42,34 @@ public:
 private:
     std::filesystem::path m_path;
 };
+
+/// Takes root's rights from this process for the time of a test, so that permissions count.
+class CPlainUser
+{
+public:
+    CPlainUser()
+        : m_before(::geteuid())
+    {
+        constexpr uid_t Nobody = 65534;
+        if (m_before == 0 && ::seteuid(Nobody) != 0)
+            std::abort();
+    }
+    ~CPlainUser()
+    {
+        if (::seteuid(m_before) != 0)
+            std::abort();
+    }
+    CPlainUser(const CPlainUser&) = delete;
+    CPlainUser& operator=(const CPlainUser&) = delete;
+
+private:
+    uid_t m_before;
+};
+
+inline void SetMode(const std::filesystem::path& path, unsigned mode)
+{
+    std::filesystem::permissions(path, static_cast<std::filesystem::perms>(mode));
+}
 
 inline void WriteBytes(const std::filesystem::path& path, std::string_view bytes)
 {

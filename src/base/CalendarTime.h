@@ -72,8 +72,8 @@ public:
                             static_cast<unsigned>(fields.second) < 60;
         if (!isKnown || !isTime)
             return ToSecondsElse(fields);
-        return m_day.begin + fields.hour * SecondsPerHour + fields.minute * SecondsPerMinute +
-               fields.second;
+        return m_day.begin + CalendarSeconds{fields.hour} * SecondsPerHour +
+               CalendarSeconds{fields.minute} * SecondsPerMinute + fields.second;
     }
     /// As `PlainDayOf`.
     [[nodiscard]] const LocalDay& Day(CalendarSeconds seconds);

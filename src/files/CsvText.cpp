@@ -86,7 +86,7 @@ std::string CCsvText::Header(const CsvNames& names) const
     const std::string unit(UnitText(m_options.unit));
     std::string text = m_options.dateTime ? names.dateTime : names.date + ',' + names.time;
     for (const std::string& name : {names.x, names.y, names.z})
-        text += ',' + name + unit;
+        text.append(",").append(name).append(unit);
     if (m_options.accel)
         text += ',' + names.resultant + unit;
     if (m_options.temperature)

@@ -25,7 +25,11 @@ public:
     CConversion(const CConversion&) = delete;
     CConversion& operator=(const CConversion&) = delete;
 
-    [[nodiscard]] bool IsOpen() const { return m_handle != reinterpret_cast<iconv_t>(-1); }
+    [[nodiscard]] bool IsOpen() const
+    {
+        // NOLINTNEXTLINE(performance-no-int-to-ptr): the value that iconv_open is defined to give.
+        return m_handle != reinterpret_cast<iconv_t>(-1);
+    }
 
     /// Converts what it can of `bytes` from the front and takes that off.
     std::string Convert(std::string_view& bytes)

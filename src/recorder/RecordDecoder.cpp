@@ -202,8 +202,8 @@ CalendarSeconds CRecordDecoder::TimeOnAnotherDay(std::uint32_t stamp, bool& isVa
         ForceIntoRange(fields);
     const CalendarSeconds time = m_calendar.ToSeconds(fields);
     const LocalDay& day = m_calendar.Day(time);
-    // A day on which the clock is changed, or beyond its month's length, is asked for each time.
-    if (isValid && day.Holds(time) && day.month == fields.month && day.day == fields.day) {
+    // A day on which the clock is changed is asked for each time.
+    if (isValid && day.Holds(time)) {
         m_dayBits = stamp & MonthAndDay;
         m_dayBegin = day.begin;
     }

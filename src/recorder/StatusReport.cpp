@@ -124,8 +124,7 @@ int ReadThreshold(const CReportReader& reader, const RecorderStatus& status)
 void ReadRows(const CReportReader& reader, RecorderStatus& status)
 {
     const auto row = [](std::string_view value, auto search, int fallback) {
-        // A zero byte stands in the tables for "no such setting".
-        const int found = value.empty() || value.front() == '\0' ? -1 : search(value.front());
+        const int found = value.empty() ? -1 : search(value.front());
         return found < 0 ? fallback : found;
     };
     const int type = status.m_type;

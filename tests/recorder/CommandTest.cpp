@@ -165,6 +165,13 @@ TEST_F(Commands, ReportAMonitorCommandsAnswerUntilSilence)
     EXPECT_EQ(m_traffic.m_log, "[v]one#two\r\nthree#");
     EXPECT_GE(m_clock.m_tick - before, 15000U);
     EXPECT_TRUE(m_link.IsOpen());
+    // The silence counts, not the whole time.
+    m_recorder.m_beforeRead = [this, first = m_recorder.Reads()](int read) {
+        if (read - first == 80 || read - first == 160)
+            m_recorder.Arrive("late");
+    };
+    EXPECT_TRUE(m_link.SendMonitorCommand("w"));
+    EXPECT_TRUE(m_traffic.m_log.ends_with("[w]latelate"));
     m_recorder.m_failWriteOf = "v";
     EXPECT_FALSE(m_link.SendMonitorCommand("v"));
 }

@@ -96,7 +96,7 @@ TEST_F(Download, DrainsAndClosesWhereTheGetCommandFails)
     EXPECT_FALSE(m_link.m_busy);
     m_recorder.m_failWriteOf.clear();
     m_recorder.m_shortWriteOf = "D";
-    m_recorder.Arrive("rest");
+    m_recorder.On("D", "rest");
     EXPECT_EQ(m_link.StartDownload(), -2);
     EXPECT_TRUE(m_recorder.IsQuiet());
 }
@@ -126,6 +126,19 @@ TEST_F(Download, KeepsWhatCameBeforeFifteenSecondsOfSilence)
     // The line that was cut is filled up.
     EXPECT_EQ(m_data.GetRecord(2).m_flags, RecordFlag::Abnormal);
     EXPECT_EQ(m_recorder.Events().back(), "close");
+}
+
+TEST_F(Download, CountsSilenceAndNotTheWholeTime)
+{
+    m_recorder.On("p", Report("4 100"));
+    m_recorder.On("D", Lines(1));
+    m_recorder.m_beforeRead = [this](int read) {
+        // A line comes every 80 reads, that is 12 seconds.
+        if (read % 80 == 0)
+            m_recorder.Arrive(read == 240 ? Line + "#" : Line);
+    };
+    EXPECT_EQ(Run(), 4);
+    EXPECT_FALSE(m_link.m_timedOut);
 }
 
 TEST_F(Download, WaitsForTheClosingMarkBehindTheLastLine)

@@ -44,13 +44,11 @@ CSerialPort::Transfer CScriptedRecorder::Write(std::string_view bytes)
     m_events.push_back(text);
     if (text == m_failWriteOf)
         return {0, Gone()};
-    if (text == m_shortWriteOf)
-        return {text.size() - 1, {}};
     if (text == m_lineErrorAt)
         m_lineError = true;
     if (const auto reply = m_replies.find(text); reply != m_replies.end())
         m_incoming.insert(m_incoming.end(), reply->second.begin(), reply->second.end());
-    return {text.size(), {}};
+    return {text == m_shortWriteOf ? text.size() - 1 : text.size(), {}};
 }
 
 std::optional<CSerialPort::LineState> CScriptedRecorder::ClearErrors()

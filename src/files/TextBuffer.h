@@ -40,10 +40,10 @@ public:
     /// Writes what is left; gives the first failure.
     [[nodiscard]] std::error_code Finish();
 
-    static constexpr std::size_t LargestPiece = 16 * 1024;
+    static constexpr std::size_t LargestPiece = std::size_t{16} * 1024;
 
 private:
-    static constexpr std::size_t Capacity = 256 * 1024;
+    static constexpr std::size_t Capacity = std::size_t{256} * 1024;
 
     void Flush();
     [[nodiscard]] bool StartThread();

@@ -27,7 +27,7 @@ bool CTextLines::Fill()
     m_begin = 0;
     std::size_t got = 0;
     // Small steps: the header of a file is all that is read this way as a rule.
-    constexpr std::size_t Step = 64 * 1024;
+    constexpr std::size_t Step = std::size_t{64} * 1024;
     const std::size_t room = LongestLine - m_end;
     m_error =
         m_file.ReadAt(m_offset + m_end, m_buffer.get() + m_end, room < Step ? room : Step, got);

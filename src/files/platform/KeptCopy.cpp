@@ -42,7 +42,8 @@ std::error_code CopyContents(int from, int to)
 {
     if (::ioctl(to, FICLONE, from) == 0)
         return {};
-    std::array<char, 64 * 1024> buffer; // NOLINT(cppcoreguidelines-pro-type-member-init)
+    std::array<char, std::size_t{64} * 1024>
+        buffer; // NOLINT(cppcoreguidelines-pro-type-member-init)
     for (;;) {
         const ssize_t count = ::read(from, buffer.data(), buffer.size());
         if (count < 0 && errno == EINTR)

@@ -42,8 +42,8 @@ std::error_code CopyContents(int from, int to)
 {
     if (::ioctl(to, FICLONE, from) == 0)
         return {};
-    std::array<char, std::size_t{64} * 1024>
-        buffer; // NOLINT(cppcoreguidelines-pro-type-member-init)
+    constexpr std::size_t Size = std::size_t{64} * 1024;
+    std::array<char, Size> buffer; // NOLINT(cppcoreguidelines-pro-type-member-init)
     for (;;) {
         const ssize_t count = ::read(from, buffer.data(), buffer.size());
         if (count < 0 && errno == EINTR)

@@ -178,7 +178,7 @@ TEST(ReadProfileText, EndsTextsAfter127Bytes)
         EXPECT_EQ(ReadKey(start + std::string(128, 'a')).*field, std::string(127, 'a'));
         EXPECT_EQ(ReadKey(start + std::string(1 << 20, 'a')).*field, std::string(127, 'a'));
     }
-    // The cut falls into the fourth entry here: what is missing of it counts as 0.
+    // The cut falls into the fifth entry here: what is missing of it counts as 0.
     std::string extract = "Extract=";
     for (int i = 0; i < 5; ++i)
         extract += "16,11.000000,1,22.000000,1,";

@@ -1,3 +1,4 @@
+#include "recorder/ConditionCommands.h"
 #include "setup/conditions/ConditionFitting.h"
 #include "setup/conditions/ProfileFile.h"
 #include "skeldonctl/Connection.h"
@@ -13,9 +14,7 @@ namespace {
 /// Runs the fitting checks: what is asked is taken where `fit`, and ends the command else.
 bool Fit(CMeasureCondition& condition, const CRecorderLink& link, bool fit)
 {
-    CConditionFitting fitting(
-        condition,
-        {.type = link.m_type, .isAlpha = link.m_alphaFirmware, .hasBuzzer = link.HasBuzzer()});
+    CConditionFitting fitting(condition, FactsOf(link));
     while (const std::optional<FitStep> step = fitting.Next()) {
         const std::string reason = FitReasonText(step->code);
         if (!step->IsQuestion()) {
@@ -27,6 +26,15 @@ bool Fit(CMeasureCondition& condition, const CRecorderLink& link, bool fit)
         fitting.Answer(fit);
     }
     return !fitting.IsRefused();
+}
+
+/// Whether a reservation's minute has gone by; told.
+bool IsPast(const StartCommand& command)
+{
+    if (!command.at || FromLocalFields(*command.at) >= Now())
+        return false;
+    Tell("Reservation date should be in the future.");
+    return true;
 }
 
 /// Whether the recorder's data goes and its clock is set; nothing where it must but may not.
@@ -49,11 +57,8 @@ ExitStatus Run(const StartCommand& command)
     CMeasureCondition condition;
     if (const std::error_code error = LoadProfile(command.profile, condition))
         return FailOn(command.profile, error);
-    const CalendarSeconds reserveTime = command.at ? FromLocalFields(*command.at) : 0;
-    if (command.at && reserveTime < Now()) {
-        Tell("Reservation date should be in the future.");
+    if (IsPast(command))
         return ExitStatus::Failed;
-    }
     CSystemClock clock;
     CRecorderLink link = MakeLink(command.port, clock);
     if (const ExitStatus connected = Connect(link); connected != ExitStatus::Done)
@@ -61,11 +66,13 @@ ExitStatus Run(const StartCommand& command)
     if (!Fit(condition, link, command.fit))
         return ExitStatus::Failed;
     const std::optional<bool> clears = Clears(link, command);
-    if (!clears)
+    // The recorder may have taken its time to answer.
+    if (!clears || IsPast(command))
         return ExitStatus::Failed;
     // A reservation always sets the clock, and so always clears.
-    const bool isStarted = command.at ? link.StartReserved(condition, reserveTime, true)
-                                      : link.StartMeasuring(condition, *clears);
+    const bool isStarted = command.at
+                               ? link.StartReserved(condition, FromLocalFields(*command.at), true)
+                               : link.StartMeasuring(condition, *clears);
     if (!isStarted) {
         Tell("Could not start measuring.");
         return ExitStatus::Failed;

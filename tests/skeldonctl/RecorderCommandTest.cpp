@@ -1,45 +1,14 @@
-#include "Tool.h"
+#include "ToolOnRecorder.h"
 
-#include "data/MeasureData.h"
-#include "files/DataFile.h"
-
-#include <csignal>
+#include <algorithm>
 #include <filesystem>
 #include <gtest/gtest.h>
-#include <thread>
 
 namespace skeldon::test {
 
 namespace {
 
-/// The tool and a simulated recorder on a real pseudo terminal.
-class RecorderCommand : public ::testing::Test
-{
-protected:
-    std::unique_ptr<CBackgroundProgram> Simulator(std::vector<std::string> options)
-    {
-        options.insert(options.end(), {"--link", m_port});
-        auto simulator = std::make_unique<CBackgroundProgram>(SIMULATOR, options);
-        EXPECT_NE(simulator->Ready(), "") << "the simulator did not start";
-        return simulator;
-    }
-    Outcome OnPort(std::vector<std::string> arguments)
-    {
-        arguments.insert(arguments.end(), {"--port", m_port});
-        return Tool(arguments);
-    }
-    std::string WriteProfile(const std::string& conditions)
-    {
-        const std::string path = m_folder.Path("crate.skp").string();
-        WriteText(path, "[Configuration]\r\n" + conditions);
-        return path;
-    }
-
-    CTemporaryFolder m_folder;
-    std::string m_port = m_folder.Path("korva").string();
-    std::string m_data = m_folder.Path("out.skd").string();
-    std::string m_csv = m_folder.Path("out.csv").string();
-};
+using RecorderCommand = ToolOnRecorder;
 
 TEST_F(RecorderCommand, WithoutACableThereIsNoRecorder)
 {
@@ -236,92 +205,6 @@ TEST_F(RecorderCommand, OnlineRecordsTwoHundredLinesASecond)
     EXPECT_EQ(json.value("hasTemperature", true), false);
     EXPECT_EQ(json.value("hasHumidity", true), false);
     EXPECT_EQ(JsonOf(Tool({"info", m_data, "--json"})).value("hasTemperature", true), false);
-}
-
-TEST_F(RecorderCommand, StartGivesTheRecorderTheConditions)
-{
-    const auto simulator = Simulator({"--type", "qm70", "--alpha"});
-    const std::string profile =
-        WriteProfile("SerialNo=7\r\nSampling=1\r\nInterval=12\r\nThreshold=25\r\nStartOpt=30\r\n"
-                     "OverThreshold=yes\r\nHazard=100\r\nEndless=yes\r\nBuzzer=yes\r\n");
-    const Outcome outcome = OnPort({"start", profile});
-    EXPECT_EQ(outcome.status, 0) << outcome.err;
-    EXPECT_NE(outcome.err.find("Disconnect KORVA cable."), std::string::npos);
-    const nlohmann::json json = JsonOf(OnPort({"status", "--json"}));
-    EXPECT_EQ(json.value("hostNumber", 0), 7);
-    EXPECT_EQ(json.value("sampling", 0), 3);
-    EXPECT_EQ(json.value("interval", 0), 13);
-    EXPECT_EQ(json.value("threshold", 0), 25);
-    EXPECT_EQ(json.value("wait", 0), 30);
-    EXPECT_EQ(json.value("warn", false), true);
-    EXPECT_EQ(json.value("hazard", 0), 100);
-    EXPECT_EQ(json.value("endless", false), true);
-    EXPECT_EQ(json.value("buzzer", false), true);
-}
-
-TEST_F(RecorderCommand, StartFailsOnTheFirstConditionThatDoesNotFitAndSaysWhatWould)
-{
-    const auto simulator = Simulator({"--type", "pl20", "--alpha"});
-    const std::string profile = WriteProfile("Sampling=20\r\nThreshold=200\r\n");
-    const nlohmann::json before = JsonOf(OnPort({"status", "--json"}));
-    const Outcome outcome = OnPort({"start", profile});
-    EXPECT_EQ(outcome.status, 1);
-    EXPECT_NE(outcome.err.find("sampling rate"), std::string::npos);
-    EXPECT_NE(outcome.err.find("0.0312sec"), std::string::npos);
-    EXPECT_EQ(outcome.err.find("threshold"), std::string::npos);
-    EXPECT_EQ(JsonOf(OnPort({"status", "--json"})), before);
-}
-
-TEST_F(RecorderCommand, StartWithFitTakesTheOfferedValuesAndSaysSo)
-{
-    const auto simulator = Simulator({"--type", "pl20", "--alpha"});
-    const std::string profile = WriteProfile("Sampling=20\r\nThreshold=200\r\nHazard=70\r\n");
-    const Outcome outcome = OnPort({"start", profile, "--fit"});
-    EXPECT_EQ(outcome.status, 0) << outcome.err;
-    EXPECT_NE(outcome.err.find("Taking 0.0312sec"), std::string::npos);
-    EXPECT_NE(outcome.err.find("Taking 0.0G"), std::string::npos);
-    const nlohmann::json json = JsonOf(OnPort({"status", "--json"}));
-    EXPECT_EQ(json.value("sampling", 0), 4);
-    EXPECT_EQ(json.value("threshold", -1), 0);
-    EXPECT_EQ(json.value("hazard", 0), 70);
-}
-
-TEST_F(RecorderCommand, StartKeepsTheDataUnlessItIsToBeCleared)
-{
-    const auto simulator = Simulator({"--type", "pl20", "--lines", "40"});
-    const std::string profile = WriteProfile("Interval=3\r\n");
-    EXPECT_EQ(OnPort({"start", profile}).status, 0);
-    EXPECT_EQ(JsonOf(OnPort({"status", "--json"})).value("count", -1), 40);
-    EXPECT_EQ(OnPort({"start", profile, "--clear"}).status, 0);
-    EXPECT_EQ(JsonOf(OnPort({"status", "--json"})).value("count", -1), 0);
-}
-
-TEST_F(RecorderCommand, AReservationOverDataNeedsToClearIt)
-{
-    const auto simulator = Simulator({"--type", "pl20", "--lines", "40"});
-    const std::string profile = WriteProfile("Interval=3\r\n");
-    const Outcome refused = OnPort({"start", profile, "--at", "2099-12-31 23:59"});
-    EXPECT_EQ(refused.status, 1);
-    EXPECT_NE(refused.err.find("--clear"), std::string::npos);
-    EXPECT_EQ(OnPort({"start", profile, "--at", "2099-12-31 23:59", "--clear"}).status, 0);
-    EXPECT_EQ(JsonOf(OnPort({"status", "--json"})).value("count", -1), 0);
-}
-
-TEST_F(RecorderCommand, AReservationInThePastIsRefused)
-{
-    const auto simulator = Simulator({"--type", "pl20"});
-    const Outcome outcome =
-        OnPort({"start", WriteProfile("Interval=3\r\n"), "--at", "2001-01-01 00:00"});
-    EXPECT_EQ(outcome.status, 1);
-    EXPECT_NE(outcome.err.find("Reservation date should be in the future."), std::string::npos);
-}
-
-TEST_F(RecorderCommand, AProfileThatCanNotBeReadIsAFailure)
-{
-    const std::string nothing = m_folder.Path("nothing.skp").string();
-    const Outcome outcome = OnPort({"start", nothing});
-    EXPECT_EQ(outcome.status, 1);
-    EXPECT_NE(outcome.err.find(nothing), std::string::npos);
 }
 
 } // namespace

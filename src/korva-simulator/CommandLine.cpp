@@ -6,6 +6,7 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <cmath>
 #include <sstream>
 
 namespace skeldon {
@@ -36,7 +37,7 @@ std::optional<std::int64_t> StepOf(const std::string& text)
     const double hundredths = ScanDouble(text) * 100;
     if (!(hundredths >= 0.5 && hundredths <= static_cast<double>(SecondsPerDay) * 100))
         return std::nullopt;
-    return static_cast<std::int64_t>(hundredths + 0.5);
+    return std::llround(hundredths);
 }
 
 /// Bytes a second of "real", "full" or a number; nothing for any other text.

@@ -112,7 +112,7 @@ std::span<const FaultForm> FaultForms()
 
 std::string FaultUsage(const FaultForm& form)
 {
-    const std::string name(form.name);
+    std::string name(form.name);
     const std::string value(form.valueName);
     switch (form.value) {
     case FaultValue::None:

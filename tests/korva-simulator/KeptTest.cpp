@@ -181,6 +181,28 @@ TEST_F(Kept, TraceHoldsTheWireByteForByte)
     }
 }
 
+TEST_F(Kept, TraceTellsWhatNobodyWasThereToHear)
+{
+    {
+        CPlayed played({"--link", m_link, "--trace", m_trace, "--control", m_fifo, "--time-scale",
+                        "100000", "--type", "pl20"});
+        {
+            CHostPort port(m_link);
+            port.WakeUp();
+            port.Write("x");
+            (void)port.ReadTo('\r');
+        }
+        EXPECT_EQ(played.Control(m_fifo, "clear-faults"), "done");
+        EXPECT_EQ(played.Control(m_fifo, "clear-faults"), "done");
+        EXPECT_EQ(played.Quit(), 0);
+    }
+    const std::string trace = ReadText(m_trace);
+    EXPECT_EQ(Traced(trace, '>'), "mx");
+    EXPECT_NE(trace.find(" - host closed the port\n"), std::string::npos);
+    const std::string lost = Traced(trace, '!');
+    EXPECT_NE(lost.find('G'), std::string::npos);
+}
+
 TEST_F(Kept, TraceThatCanNotBeWrittenFailsTheRun)
 {
     EXPECT_EQ(Fails({"--trace", m_folder.Path("")}),

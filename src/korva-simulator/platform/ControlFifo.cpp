@@ -2,7 +2,6 @@
 
 #include <array>
 #include <cerrno>
-#include <utility>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -15,7 +14,7 @@ constexpr mode_t FifoMode = 0600;
 
 } // namespace
 
-CControlFifo::CControlFifo(std::filesystem::path path, std::error_code& error)
+CControlFifo::CControlFifo(const std::filesystem::path& path, std::error_code& error)
 {
     error.clear();
     const bool isMade = ::mkfifo(path.c_str(), FifoMode) == 0;

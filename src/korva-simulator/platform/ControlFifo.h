@@ -16,7 +16,7 @@ class CControlFifo
 public:
     /// No pipe.
     CControlFifo() = default;
-    CControlFifo(std::filesystem::path path, std::error_code& error);
+    CControlFifo(const std::filesystem::path& path, std::error_code& error);
     CControlFifo(const CControlFifo&) = delete;
     CControlFifo& operator=(const CControlFifo&) = delete;
     ~CControlFifo();

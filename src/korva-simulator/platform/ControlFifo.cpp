@@ -42,18 +42,14 @@ CControlFifo::~CControlFifo()
         std::filesystem::remove(m_made, ignored);
 }
 
-bool CControlFifo::Next(std::string& line)
+void CControlFifo::Read()
 {
     if (!m_descriptor.IsOpen())
-        return false;
-    if (m_lines.Next(line))
-        return true;
+        return;
     std::array<char, 4096> buffer{};
     const ssize_t count = ::read(m_descriptor.Get(), buffer.data(), buffer.size());
-    if (count <= 0)
-        return false;
-    m_lines.Append({buffer.data(), static_cast<std::size_t>(count)});
-    return m_lines.Next(line);
+    if (count > 0)
+        m_lines.Append({buffer.data(), static_cast<std::size_t>(count)});
 }
 
 } // namespace skeldon

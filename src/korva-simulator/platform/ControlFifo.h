@@ -23,8 +23,10 @@ public:
 
     /// For poll(2); below 0 without a pipe.
     [[nodiscard]] int Descriptor() const { return m_descriptor.Get(); }
-    /// The next whole line; false where none has come yet.
-    [[nodiscard]] bool Next(std::string& line);
+    /// Takes in what has been written, a block at the most.
+    void Read();
+    /// The next whole line of what was taken in; false where there is none.
+    [[nodiscard]] bool Next(std::string& line) { return m_lines.Next(line); }
 
 private:
     std::filesystem::path m_made; ///< empty where the pipe was there before

@@ -137,6 +137,9 @@ int CSimulatorLoop::Timeout()
 
 void CSimulatorLoop::ReadControl()
 {
+    // One block in a round: whoever waits for an answer before the next line finds the cable served
+    // in between.
+    m_control->Read();
     std::string text;
     while (!m_quit && m_control->Next(text)) {
         const auto parsed = ParseControlLine(text);

@@ -84,6 +84,31 @@ TEST(ReadFileAgainstPlain, ReadsAFileCutAnywhereAlike)
     }
 }
 
+TEST(ReadFileAgainstPlain, ReadsEveryChangeOfOneByteInARecordAlike)
+{
+    const CTempFolder folder;
+    CRandomFiles random(12);
+    CMeasureData data;
+    while (data.GetSize() < 6)
+        data.AddRecords(random.Data(3, false).Records());
+    data.m_hasHumidity = true;
+    const std::string text = PlainDataFile(data, SaveTime);
+    const std::size_t begin = text.find("\t\t<record>");
+    const std::size_t end = text.find("\t\t<record>", begin + 1);
+    for (std::size_t at = begin; at < end; ++at) {
+        SCOPED_TRACE(at);
+        std::string changed = text;
+        for (const char c : std::string_view("\n\r\0 9-.<ex", 10)) {
+            changed[at] = c;
+            ReadBothWays(folder / "a.skd", changed);
+        }
+        ReadBothWays(folder / "a.skd", std::string(text).erase(at, 1));
+        ReadBothWays(folder / "a.skd", std::string(text).insert(at, 1, text[at]));
+        if (HasFailure())
+            return;
+    }
+}
+
 TEST(WriteFileAgainstPlain, WritesThousandsOfDataSetsAlike)
 {
     for (std::uint64_t seed = 1; seed <= 1500; ++seed) {

@@ -21,30 +21,50 @@ void ShowProgress(CReadBackObserver& observer, int line)
         observer.ShowPosition(line);
 }
 
+/// Makes room, as far as there is any: a recorder may announce more than it holds.
+void ReserveRoom(CMeasureData& data, int expected)
+{
+    try {
+        data.Reserve(static_cast<std::size_t>(std::clamp(expected, 0, FirstRoom)));
+    } catch (const std::bad_alloc&) {
+        // The lines make their own room as they come.
+    }
+}
+
+/// Whether there was memory for the line.
+bool Keep(CMeasureData& data, const CMeasureRecord& record)
+{
+    try {
+        data.AddRecord(record);
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
+    return true;
+}
+
 int ReadLines(CRecorderLink& link, int expected, CMeasureData& data, CReadBackObserver* observer)
 {
     // One record for all lines: the abnormal flag of one stays on those that follow.
     CMeasureRecord record;
-    int line = 0;
-    try {
-        data.SetSize(0);
-        data.Reserve(static_cast<std::size_t>(std::clamp(expected, 0, FirstRoom)));
-        for (; line < expected; ++line) {
-            if (observer)
-                ShowProgress(*observer, line);
-            if (!link.NextRecord(record))
-                break;
-            data.AddRecord(record);
-        }
-    } catch (const std::bad_alloc&) {
-        return line;
+    data.SetSize(0);
+    ReserveRoom(data, expected);
+    int kept = 0;
+    bool hasRoom = true;
+    for (int line = 0; line < expected; ++line) {
+        if (observer)
+            ShowProgress(*observer, line);
+        if (!link.NextRecord(record))
+            break;
+        // Lines for which there is no memory are still taken, or they would fill the link's.
+        hasRoom = hasRoom && Keep(data, record);
+        kept += hasRoom ? 1 : 0;
     }
-    return line;
+    return kept;
 }
 
 } // namespace
 
-void TakeConditions(const RecorderStatus& status, CMeasureData& data)
+void TakeHeader(const RecorderStatus& status, CMeasureData& data)
 {
     data.m_modelName = status.GetModelName();
     data.m_release = status.m_release;

@@ -25,7 +25,7 @@ public:
 
 /// Copies into `data` how the recorder measured: model, release, type, sampling, interval,
 /// threshold, host number, hazard and endless.
-void TakeConditions(const RecorderStatus& status, CMeasureData& data);
+void TakeHeader(const RecorderStatus& status, CMeasureData& data);
 
 /// Fills `data` with the lines of the download that was started with `expected` lines, at most so
 /// many, and finishes the download. Gives the number of lines; where memory ends, the lines so far

@@ -4,12 +4,6 @@
 
 namespace skeldon {
 
-namespace {
-
-constexpr int LargestType = 50;
-
-} // namespace
-
 std::string_view RecorderStatus::GetModelName() const
 {
     return ModelOfType(m_type).word;
@@ -27,7 +21,7 @@ double RecorderStatus::GetThresholdFactor() const
 
 bool RecorderStatus::HasBuzzer() const
 {
-    return m_type == LargestType ? m_alphaFirmware : m_hasBuzzerKey;
+    return m_type == QmType ? m_alphaFirmware : m_hasBuzzerKey;
 }
 
 bool RecorderStatus::CanChangeRange() const

@@ -1,10 +1,11 @@
 #include "recorder/RecorderLink.h"
 #include "recorder/platform/ThreadPriority.h"
+#include "setup/tables/RecorderModel.h"
 
 #include <algorithm>
 #include <chrono>
+#include <exception>
 #include <new>
-#include <system_error>
 
 namespace skeldon {
 
@@ -28,7 +29,7 @@ int CRecorderLink::StartDownload()
         return NoStatus;
     if (m_count < 1)
         return 0;
-    if (!SendText(m_type == 0 ? "G" : "D")) {
+    if (!SendText(m_type == OldestType ? "G" : "D")) {
         DrainPort();
         ClosePort();
         return NoGetCommand;
@@ -88,10 +89,14 @@ void CRecorderLink::FinishOnline(CMeasureData& data)
 {
     if (m_thread.joinable())
         m_thread.join();
-    data.SetSize(m_onlineLines);
     data.m_hasTemperature = false;
     data.m_hasHumidity = false;
-    FillOnline(m_rxBuffer.TakeAll(), data);
+    try {
+        data.SetSize(m_onlineLines);
+        FillOnline(m_rxBuffer.TakeAll(), data);
+    } catch (const std::bad_alloc&) {
+        data.SetSize(0);
+    }
     EndTransfer();
 }
 
@@ -109,7 +114,8 @@ bool CRecorderLink::StartThread(ThreadWork work)
     m_busy = true;
     try {
         m_thread = std::thread(&CRecorderLink::RunThread, this, work);
-    } catch (const std::system_error&) {
+    } catch (const std::exception&) {
+        // No thread to be had, or no memory for its state.
         m_threadDone = true;
         return false;
     }
@@ -192,12 +198,12 @@ bool CRecorderLink::ReceiveOnlineLines()
             continue;
         }
         const std::string_view part = bytes.substr(0, end).substr(0, capacity - stored);
-        m_rxBuffer.Append(part);
         stored += part.size();
         const bool isFull = stored == capacity;
         const std::size_t taken = part.size() + (isEnd && !isFull ? 1 : 0);
         TakeBytes(taken);
         ReportBytes(bytes.substr(0, taken));
+        m_rxBuffer.Append(part);
         if (isFull)
             return true;
         if (isEnd && (++m_onlineLines >= m_onlineLimit || m_stopRequest))

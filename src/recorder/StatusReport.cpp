@@ -146,7 +146,6 @@ void ReadBuzzer(const CReportReader& reader, RecorderStatus& status)
 /// Which of two keys carries the release tells the kind of firmware.
 void ReadRelease(const CReportReader& reader, RecorderStatus& status)
 {
-    constexpr int QmType = 50;
     const bool qm = status.m_type == QmType;
     status.m_alphaFirmware = false;
     status.m_release = reader.Text(qm ? "@korvaQM RLS=" : "@korvaPL RLS=");

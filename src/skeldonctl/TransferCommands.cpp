@@ -106,7 +106,7 @@ ExitStatus DownloadRefused(int code)
 void ReadRecorder(CRecorderLink& link, int expected, Transferred& transferred)
 {
     CMeasureData& data = transferred.data;
-    TakeConditions(link, data);
+    TakeHeader(link, data);
     CTerminalObserver observer(expected);
     const int received = ReadBack(link, expected, data, &observer);
     data.Analyse({.startMonth = link.m_month, .startDay = link.m_day, .now = Now()});
@@ -158,7 +158,7 @@ ExitStatus Run(const GetCommand& command)
     if (expected > 0)
         ReadRecorder(link, expected, transferred);
     else
-        TakeConditions(link, transferred.data);
+        TakeHeader(link, transferred.data);
     if (transferred.data.IsEmpty())
         Tell("No measured data is available.");
     else if (transferred.status == ExitStatus::Incomplete)

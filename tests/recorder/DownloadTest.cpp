@@ -302,7 +302,7 @@ TEST_F(Download, MovesTheGaugeEvery40LinesAndBlinksEvery512)
     EXPECT_EQ(m_data.GetSize(), 1030U);
 }
 
-TEST(TakeConditions, CopiesHowTheRecorderMeasured)
+TEST(TakeHeader, CopiesHowTheRecorderMeasured)
 {
     RecorderStatus status;
     status.m_type = 50;
@@ -314,7 +314,7 @@ TEST(TakeConditions, CopiesHowTheRecorderMeasured)
     status.m_hazard = 495;
     status.m_endless = true;
     CMeasureData data;
-    TakeConditions(status, data);
+    TakeHeader(status, data);
     EXPECT_EQ(data.m_modelName, "QM70");
     EXPECT_EQ(data.m_release, "A1");
     EXPECT_EQ(data.m_typeNumber, 50);

@@ -129,8 +129,10 @@ CSerialPort::Transfer CPosixSerialPort::Read(std::span<char> buffer)
         if (!end)
             end = FromNow(SerialSetting::ReadWaitMs);
         const int ready = WaitFor(m_descriptor, POLLIN, *end);
-        if (ready <= 0)
-            return {0, ready == 0 ? std::error_code() : LastSystemError()};
+        if (ready < 0)
+            return {0, LastSystemError()};
+        if (ready == 0 || Clock::now() >= *end)
+            return {};
     }
 }
 

@@ -24,6 +24,9 @@ inline constexpr int OldestType = 0;
 /// Type of a report whose "@Type=" names no member of the family.
 inline constexpr int UnknownType = -2;
 
+/// Type of the QM70, whose release keys and buzzer follow rules of their own.
+inline constexpr int QmType = 50;
+
 /// Whether "@Type=" may carry `type`: 1, 2, 3, 5, 10, 20 or 50.
 [[nodiscard]] bool IsReportedType(int type);
 

@@ -30,6 +30,9 @@ LocalDay PlainDayOf(CalendarSeconds seconds)
     const CalendarFields last{fields.year, fields.month, fields.day, 23, 59, 59};
     if (ToLocalFields(begin) != first || ToLocalFields(begin + SecondsPerDay - 1) != last)
         return {};
+    // Where the day's first hour comes twice, those are the last 24 of its 25 hours.
+    if (ToLocalFields(begin - 1).day == fields.day)
+        return {};
     return {begin, begin + SecondsPerDay, fields.year, fields.month, fields.day};
 }
 

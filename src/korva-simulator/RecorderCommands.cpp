@@ -1,6 +1,7 @@
 #include "korva-simulator/SimulatedRecorder.h"
 #include "korva-simulator/StatusText.h"
 #include "setup/tables/IntervalTable.h"
+#include "setup/tables/RecorderModel.h"
 #include "setup/tables/SamplingTable.h"
 
 #include <algorithm>
@@ -10,8 +11,6 @@
 namespace skeldon {
 
 namespace {
-
-constexpr int QmType = 50;
 
 /// The number that `digits` digits of `text` from `position` on make.
 int Number(const std::string& text, std::size_t position, std::size_t digits)

@@ -1,6 +1,7 @@
 #include "korva-simulator/StatusText.h"
 
 #include "korva-simulator/DownloadText.h"
+#include "setup/tables/RecorderModel.h"
 
 #include <array>
 #include <cstdio>
@@ -8,8 +9,6 @@
 namespace skeldon {
 
 namespace {
-
-constexpr int QmType = 50;
 
 class CReport
 {

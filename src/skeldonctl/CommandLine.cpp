@@ -150,8 +150,8 @@ std::variant<Command, Refusal> Chosen(const CLI::App& app, Options& options)
         if (!options.at.empty()) {
             options.start.at = ParseMinute(options.at);
             if (!options.start.at)
-                return Refusal{ExitStatus::Usage,
-                               "--at: \"" + options.at + "\" is no time \"YYYY-MM-DD HH:MM\"\n"};
+                return Refusal{ExitStatus::Usage, "skeldonctl: --at: \"" + options.at +
+                                                      "\" is no time \"YYYY-MM-DD HH:MM\"\n"};
         }
         return options.start;
     }
@@ -205,8 +205,13 @@ std::optional<CalendarFields> ParseMinute(const std::string& text)
                                 .hour = number(11, 2),
                                 .minute = number(14, 2),
                                 .second = 0};
-    // What the calendar would roll over, such as February 30th, names no date.
-    if (ToLocalFields(FromLocalFields(fields)) != fields)
+    // What the calendar would roll over, such as February 30th, names no day. An hour that the
+    // clock skips is left to it. Noon is there on every day.
+    CalendarFields noon = fields;
+    noon.hour = 12;
+    noon.minute = 0;
+    const bool isDay = ToLocalFields(FromLocalFields(noon)) == noon;
+    if (!isDay || fields.hour > 23 || fields.minute > 59)
         return std::nullopt;
     return fields;
 }

@@ -118,6 +118,18 @@ TEST(FromLocalFields, MeansTheEarlierInstantOfAnHourThatComesTwiceWhateverWasCon
     }
 }
 
+TEST(LocalCalendar, MeansTheEarlierInstantWhereTheFirstHourOfADayComesTwice)
+{
+    const CZoneScope scope(Zone::Havana);
+    constexpr CalendarSeconds Earlier = 1225600200;
+    for (const int hour : {1, 5, 12, 22}) {
+        CLocalCalendar calendar;
+        (void)calendar.ToSeconds({2008, 11, 2, hour, 0, 0});
+        EXPECT_EQ(calendar.ToSeconds({2008, 11, 2, 0, 30, 0}), Earlier) << hour;
+        EXPECT_EQ(calendar.ToFields(Earlier), (CalendarFields{2008, 11, 2, 0, 30, 0})) << hour;
+    }
+}
+
 TEST(FromLocalFields, ReachesBehindJanuary2038)
 {
     const CZoneScope scope(Zone::Utc);

@@ -55,6 +55,9 @@ function(skeldon_program name room)
   install(TARGETS ${name} RUNTIME)
 endfunction()
 
+# What is run under the thread sanitizer.
+add_custom_target(thread_tests)
+
 # skeldon_test(<name> [LIBS targets] [EXCEPT files]): every *.cpp of the calling folder is one
 # GoogleTest program, registered with CTest under the folder's name.
 function(skeldon_test name)
@@ -69,6 +72,9 @@ function(skeldon_test name)
   target_link_libraries(${target} PRIVATE skeldon_options ${ARG_LIBS} GTest::gmock GTest::gtest_main)
   target_precompile_headers(${target} PRIVATE <gmock/gmock.h> <gtest/gtest.h> <string> <vector>)
   add_test(NAME ${name} COMMAND ${target})
+  if("threads" IN_LIST ARG_LABELS)
+    add_dependencies(thread_tests ${target})
+  endif()
   # Nothing a test does may reach the home of whoever runs it.
   set_tests_properties(${name} PROPERTIES
     TIMEOUT 600 LABELS "${ARG_LABELS}"

@@ -118,6 +118,23 @@ TEST_F(Commands, Calibrate)
                                                  "open /dev/cable", "m", "w99", "close"));
 }
 
+TEST_F(Commands, CalibrateTakesAReplyThatSilenceCutShort)
+{
+    m_recorder.On("w99", "ok");
+    EXPECT_TRUE(m_link.Calibrate());
+    EXPECT_FALSE(m_link.IsOpen());
+}
+
+TEST_F(Commands, ReportAMonitorCommandsAnswerAfterOneThatTimedOut)
+{
+    Watch();
+    EXPECT_FALSE(m_link.Calibrate());
+    EXPECT_TRUE(m_link.m_timedOut);
+    m_recorder.On("v", "answer");
+    EXPECT_TRUE(m_link.SendMonitorCommand("v"));
+    EXPECT_TRUE(m_traffic.m_log.ends_with("[v]answer"));
+}
+
 TEST_F(Commands, ChangeTheRangeByTheNumberOfTheTarget)
 {
     const struct

@@ -256,6 +256,16 @@ TEST_F(Download, ReadsManyLinesWhileTheyArrive)
     EXPECT_TRUE(same);
 }
 
+TEST_F(Download, ForgetsTheSilenceOfTheReportBeforeIt)
+{
+    std::string open = Report("2 100");
+    open.pop_back(); // without its mark the report ends by silence, and counts all the same
+    m_recorder.On("p", open);
+    m_recorder.On("D", Lines(2) + "#");
+    EXPECT_EQ(Run(), 2);
+    EXPECT_FALSE(m_link.m_timedOut);
+}
+
 TEST_F(Download, GivesNoRecordOutsideATransfer)
 {
     CMeasureRecord record(3);

@@ -246,6 +246,34 @@ TEST_F(Online, LeavesNothingBehindWhereItCanNotStart)
     EXPECT_FALSE(m_link.m_busy);
 }
 
+TEST_F(Online, ForgetsTheStopOfAnEarlierStream)
+{
+    m_recorder.On("x", "\rG010203\rG010203\rG010203\r");
+    m_link.m_stopRequest = true;
+    Run(3);
+    EXPECT_EQ(m_data.GetSize(), 3U);
+}
+
+TEST_F(Online, LeavesACarriageReturnBehindAFullBufferToTheDrain)
+{
+    Watch();
+    // One line makes room for 39 bytes; the end of line behind them counts no more.
+    m_recorder.On("x", "\r" + std::string(39, '-') + "\r");
+    Run(1);
+    EXPECT_EQ(m_traffic.m_log, "[x]-" + std::string(39, '-') + "[#]\r+");
+    EXPECT_EQ(m_link.m_onlineLines, 0U);
+}
+
+TEST_F(Online, DrainsNothingWhereTheStreamFellSilent)
+{
+    m_recorder.On("x", "\r");
+    Run(10);
+    // One read at the opening is the drain's; each of the others waited for the stream.
+    const int reads = m_recorder.Reads();
+    EXPECT_TRUE(m_link.m_timedOut);
+    EXPECT_LE(reads, 2 + 1 + 101);
+}
+
 TEST_F(Online, CanBeWaitedFor)
 {
     EXPECT_TRUE(m_link.WaitForThread(0));
@@ -265,8 +293,10 @@ TEST_F(Online, StopsTheRecorderWhenTheLinkEnds)
     m_recorder.On("x", "\r");
     m_recorder.m_endless = "G010203\r\n";
     m_recorder.m_readTakesMs = 5;
+    const std::uint32_t before = m_clock.m_tick;
     ASSERT_TRUE(link->StartOnline(900'000));
     link.reset();
+    EXPECT_LT(m_clock.m_tick - before, 900'000U);
     const std::vector<std::string> events = m_recorder.Events();
     EXPECT_EQ(events[events.size() - 2], "#");
     EXPECT_EQ(events.back(), "close");

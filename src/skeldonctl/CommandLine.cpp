@@ -64,9 +64,9 @@ void AddPath(CLI::App& command, const std::string& name, std::filesystem::path& 
 
 void AddJson(CLI::App& command, bool& json, bool* records)
 {
-    CLI::Option* const option = command.add_flag("--json", json, "Print one JSON object");
+    command.add_flag("--json", json, "Print one JSON object");
     if (records != nullptr)
-        command.add_flag("--records", *records, "With all lines in the JSON object")->needs(option);
+        command.add_flag("--records", *records, "The same with all lines in it");
 }
 
 void AddRecorderCommands(CLI::App& app, Options& options)
@@ -136,6 +136,10 @@ void AddFileCommands(CLI::App& app, Options& options)
 std::variant<Command, Refusal> Chosen(const CLI::App& app, Options& options)
 {
     const std::string name = app.get_subcommands().front()->get_name();
+    // The lines are a part of the object.
+    options.get.json |= options.get.withRecords;
+    options.online.json |= options.online.withRecords;
+    options.info.json |= options.info.withRecords;
     if (name == "status")
         return options.status;
     if (name == "get")

@@ -22,7 +22,8 @@ bool Fit(CMeasureCondition& condition, const CRecorderLink& link, bool fit)
             continue;
         }
         const std::string offer = FitOfferText(*step);
-        Tell(reason + (fit ? " Taking " + offer + "." : " " + offer + " would fit."));
+        const std::string told = fit ? "Taking " + offer + "." : offer + " would fit.";
+        Tell(reason + ' ' + told);
         fitting.Answer(fit);
     }
     return !fitting.IsRefused();

@@ -38,6 +38,14 @@ TEST(CommandLine, ReadsEveryOptionOfGet)
     EXPECT_EQ(get.port, "/dev/ttyUSB1");
 }
 
+TEST(CommandLine, RecordsArePartOfTheJsonObject)
+{
+    EXPECT_TRUE(Parsed<GetCommand>({"get", "--records"}).json);
+    EXPECT_TRUE(Parsed<OnlineCommand>({"online", "--seconds", "1", "--records"}).json);
+    EXPECT_TRUE(Parsed<InfoCommand>({"info", "f.skd", "--records"}).json);
+    EXPECT_FALSE(Parsed<InfoCommand>({"info", "f.skd", "--json"}).withRecords);
+}
+
 TEST(CommandLine, LeavesOutWhatIsNotGiven)
 {
     const auto get = Parsed<GetCommand>({"get"});
@@ -90,7 +98,6 @@ TEST(CommandLine, RefusesWrongUsageWithStatusTwoAndAReason)
         {"status", "get"},
         {"status", "--frobnicate"},
         {"status", "--port", ""},
-        {"get", "--records"},
         {"get", "-o"},
         {"get", "-o", ""},
         {"online"},

@@ -22,8 +22,7 @@ bool Fit(CMeasureCondition& condition, const CRecorderLink& link, bool fit)
             continue;
         }
         const std::string offer = FitOfferText(*step);
-        const std::string told = fit ? "Taking " + offer + "." : offer + " would fit.";
-        Tell(reason + ' ' + told);
+        Tell(reason + (fit ? " Taking " + offer + "." : " " + offer + " would fit."));
         fitting.Answer(fit);
     }
     return !fitting.IsRefused();

@@ -78,3 +78,53 @@ function(skeldon_test name)
     TIMEOUT 600 LABELS "${ARG_LABELS}"
     ENVIRONMENT "HOME=${PROJECT_BINARY_DIR}/testhome;XDG_DATA_HOME=${PROJECT_BINARY_DIR}/testhome/data;TZ=Europe/Berlin;LC_ALL=C.UTF-8")
 endfunction()
+
+# --- rooms with the toolkit ---
+
+# One precompiled header for all of them.
+function(skeldon_qt_precompiled)
+  file(WRITE ${CMAKE_CURRENT_BINARY_DIR}/QtHeaders.cpp "")
+  add_library(skeldon_qt_headers STATIC ${CMAKE_CURRENT_BINARY_DIR}/QtHeaders.cpp)
+  target_link_libraries(skeldon_qt_headers PRIVATE skeldon_options Qt6::Widgets)
+  target_precompile_headers(skeldon_qt_headers PRIVATE <QtWidgets> <memory> <string> <vector>)
+endfunction()
+
+# skeldon_qt_room(<target> [ROOMS other targets] [LIBS private libraries]): as `skeldon_room`.
+function(skeldon_qt_room target)
+  cmake_parse_arguments(ARG "" "" "ROOMS;LIBS" ${ARGN})
+  skeldon_room(${target} ROOMS ${ARG_ROOMS} Qt6::Widgets LIBS ${ARG_LIBS})
+  set_target_properties(${target} PROPERTIES AUTOMOC ON)
+  target_precompile_headers(${target} REUSE_FROM skeldon_qt_headers)
+endfunction()
+
+# skeldon_window_test(<name> LIBS targets): every *Test.cpp of the calling folder holds one Qt Test
+# class and is one program, registered with CTest as <name>_<file>; run without a screen. What else
+# lies in the folder is common to them.
+function(skeldon_window_test name)
+  cmake_parse_arguments(ARG "" "" "LIBS" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS *.cpp)
+  set(tests ${sources})
+  list(FILTER tests INCLUDE REGEX "Test\\.cpp$")
+  list(REMOVE_ITEM sources ${tests})
+  set(common)
+  if(sources)
+    set(common window_test_${name}_common)
+    add_library(${common} STATIC ${sources})
+    target_include_directories(${common} PUBLIC ${PROJECT_SOURCE_DIR}/tests)
+    target_link_libraries(${common} PUBLIC ${ARG_LIBS} Qt6::Test PRIVATE skeldon_options)
+    set_target_properties(${common} PROPERTIES AUTOMOC ON)
+  endif()
+  foreach(file ${tests})
+    get_filename_component(title ${file} NAME_WE)
+    set(target test_${name}_${title})
+    add_executable(${target} ${file})
+    target_include_directories(${target} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+    target_link_libraries(${target} PRIVATE skeldon_options ${common} ${ARG_LIBS} Qt6::Test)
+    set_target_properties(${target} PROPERTIES AUTOMOC ON)
+    target_precompile_headers(${target} REUSE_FROM skeldon_qt_headers)
+    add_test(NAME ${name}_${title} COMMAND ${target})
+    set_tests_properties(${name}_${title} PROPERTIES
+      TIMEOUT 600
+      ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_FORCE_STDERR_LOGGING=1;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/leaks-of-libraries.txt:print_suppressions=0;HOME=${PROJECT_BINARY_DIR}/testhome;XDG_CONFIG_HOME=${PROJECT_BINARY_DIR}/testhome/config;XDG_DATA_HOME=${PROJECT_BINARY_DIR}/testhome/data;TZ=Europe/Berlin;LC_ALL=C.UTF-8")
+  endforeach()
+endfunction()

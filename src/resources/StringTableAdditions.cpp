@@ -1,0 +1,81 @@
+#include "resources/StringTableParts.h"
+
+namespace skeldon {
+
+namespace {
+
+constexpr StringEntry Entries[] = {
+    // Boxes and reasons of this system.
+    {StringId::AskReplaceFile,
+     QT_TRANSLATE_NOOP3("StringTable", "%s already exists.\nDo you want to replace it?",
+                        "AskReplaceFile")},
+    {StringId::PathAndReason, QT_TRANSLATE_NOOP3("StringTable", "%s\n%s", "PathAndReason")},
+    {StringId::CannotDeleteReason,
+     QT_TRANSLATE_NOOP3("StringTable", "%s\nFailed to delete.\n%s", "CannotDeleteReason")},
+    {StringId::FailedToWriteReason,
+     QT_TRANSLATE_NOOP3("StringTable", "%s\nFailed to write.\n%s", "FailedToWriteReason")},
+    {StringId::AboutCopyright,
+     QT_TRANSLATE_NOOP3("StringTable", "Copyright (C) brennick-works", "AboutCopyright")},
+    {StringId::AboutTitle, QT_TRANSLATE_NOOP3("StringTable", "About SKELDON Light", "AboutTitle")},
+
+    // Names for what shows only a picture, for screen readers and as tool tips.
+    {StringId::NameButtonX, QT_TRANSLATE_NOOP3("StringTable", "X axis", "NameButtonX")},
+    {StringId::NameButtonY, QT_TRANSLATE_NOOP3("StringTable", "Y axis", "NameButtonY")},
+    {StringId::NameButtonZ, QT_TRANSLATE_NOOP3("StringTable", "Z axis", "NameButtonZ")},
+    {StringId::NameButtonResultant,
+     QT_TRANSLATE_NOOP3("StringTable", "Resultant", "NameButtonResultant")},
+    {StringId::NameButtonTemperature,
+     QT_TRANSLATE_NOOP3("StringTable", "Temperature", "NameButtonTemperature")},
+    {StringId::NameButtonHumidity,
+     QT_TRANSLATE_NOOP3("StringTable", "Humidity", "NameButtonHumidity")},
+    {StringId::NameButtonZoomIn,
+     QT_TRANSLATE_NOOP3("StringTable", "Zoom in on an area", "NameButtonZoomIn")},
+    {StringId::NameButtonZoomOut,
+     QT_TRANSLATE_NOOP3("StringTable", "Zoom out", "NameButtonZoomOut")},
+    {StringId::NameButtonProperties,
+     QT_TRANSLATE_NOOP3("StringTable", "Properties of the chart", "NameButtonProperties")},
+    {StringId::NameConnection,
+     QT_TRANSLATE_NOOP3("StringTable", "Connection to the recorder", "NameConnection")},
+    {StringId::NameRecorder, QT_TRANSLATE_NOOP3("StringTable", "Recorder", "NameRecorder")},
+    {StringId::ValueConnected, QT_TRANSLATE_NOOP3("StringTable", "Connected", "ValueConnected")},
+    {StringId::ValueNotConnected,
+     QT_TRANSLATE_NOOP3("StringTable", "Not connected", "ValueNotConnected")},
+    {StringId::NameSummary,
+     QT_TRANSLATE_NOOP3("StringTable", "Measuring conditions", "NameSummary")},
+    {StringId::NameMeasuredList,
+     QT_TRANSLATE_NOOP3("StringTable", "Measured list", "NameMeasuredList")},
+    {StringId::NameChart,
+     QT_TRANSLATE_NOOP3("StringTable", "Chart of the measured data", "NameChart")},
+    {StringId::NameScaleGauge,
+     QT_TRANSLATE_NOOP3("StringTable", "Vertical scale", "NameScaleGauge")},
+    {StringId::NameSplitter,
+     QT_TRANSLATE_NOOP3("StringTable", "Border between list and chart", "NameSplitter")},
+    {StringId::NameProgress, QT_TRANSLATE_NOOP3("StringTable", "Progress", "NameProgress")},
+    {StringId::NameSpinUp, QT_TRANSLATE_NOOP3("StringTable", "Up", "NameSpinUp")},
+    {StringId::NameSpinDown, QT_TRANSLATE_NOOP3("StringTable", "Down", "NameSpinDown")},
+    {StringId::NameSpinReset, QT_TRANSLATE_NOOP3("StringTable", "Reset", "NameSpinReset")},
+    {StringId::NameColourSample,
+     QT_TRANSLATE_NOOP3("StringTable", "Colour sample", "NameColourSample")},
+
+    // Values of the read-outs for screen readers.
+    {StringId::ValueBlank, QT_TRANSLATE_NOOP3("StringTable", "blank", "ValueBlank")},
+    {StringId::ValueOff, QT_TRANSLATE_NOOP3("StringTable", "off", "ValueOff")},
+    {StringId::ValueOn, QT_TRANSLATE_NOOP3("StringTable", "on", "ValueOn")},
+    {StringId::ValueSampling, QT_TRANSLATE_NOOP3("StringTable", "0.%04d seconds", "ValueSampling")},
+    {StringId::ValueSamplingTrace,
+     QT_TRANSLATE_NOOP3("StringTable", "0.%04d seconds, trace mode", "ValueSamplingTrace")},
+    {StringId::ValueSeconds, QT_TRANSLATE_NOOP3("StringTable", "%d seconds", "ValueSeconds")},
+    {StringId::ValueMinutes, QT_TRANSLATE_NOOP3("StringTable", "%d minutes", "ValueMinutes")},
+    {StringId::ValueAcceleration, QT_TRANSLATE_NOOP3("StringTable", "%.1f G", "ValueAcceleration")},
+};
+
+static_assert(FollowsEnum(Entries));
+
+} // namespace
+
+std::span<const StringEntry> AdditionsTexts()
+{
+    return Entries;
+}
+
+} // namespace skeldon

@@ -22,6 +22,9 @@ enum class CodePage
 /// that the page does not know becomes U+FFFD.
 [[nodiscard]] std::string ToUtf8(std::string_view bytes, CodePage page);
 
+/// UTF-8 `text` as bytes of `page`; a character that the page does not hold becomes "?".
+[[nodiscard]] std::string FromUtf8(std::string_view text, CodePage page);
+
 /// Whether `bytes` are well-formed UTF-8.
 [[nodiscard]] bool IsUtf8(std::string_view bytes);
 

@@ -42,6 +42,21 @@ bool Keep(CMeasureData& data, const CMeasureRecord& record)
     return true;
 }
 
+} // namespace
+
+void TakeHeader(const RecorderStatus& status, CMeasureData& data)
+{
+    data.m_modelName = status.GetModelName();
+    data.m_release = status.m_release;
+    data.m_typeNumber = status.m_type;
+    data.SetSampling(status.m_samplingRow);
+    data.SetInterval(status.m_intervalRow);
+    data.m_threshold = status.m_threshold;
+    data.m_hostNumber = status.m_hostNumber;
+    data.m_hazard = status.m_hazard;
+    data.m_endless = status.m_endless;
+}
+
 int ReadLines(CRecorderLink& link, int expected, CMeasureData& data, CReadBackObserver* observer)
 {
     // One record for all lines: the abnormal flag of one stays on those that follow.
@@ -60,21 +75,6 @@ int ReadLines(CRecorderLink& link, int expected, CMeasureData& data, CReadBackOb
         kept += hasRoom ? 1 : 0;
     }
     return kept;
-}
-
-} // namespace
-
-void TakeHeader(const RecorderStatus& status, CMeasureData& data)
-{
-    data.m_modelName = status.GetModelName();
-    data.m_release = status.m_release;
-    data.m_typeNumber = status.m_type;
-    data.SetSampling(status.m_samplingRow);
-    data.SetInterval(status.m_intervalRow);
-    data.m_threshold = status.m_threshold;
-    data.m_hostNumber = status.m_hostNumber;
-    data.m_hazard = status.m_hazard;
-    data.m_endless = status.m_endless;
 }
 
 int ReadBack(CRecorderLink& link, int expected, CMeasureData& data, CReadBackObserver* observer)

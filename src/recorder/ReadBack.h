@@ -27,6 +27,10 @@ public:
 /// threshold, host number, hazard and endless.
 void TakeHeader(const RecorderStatus& status, CMeasureData& data);
 
+/// The lines of the download that was started with `expected` lines, without its end; see
+/// `ReadBack`.
+int ReadLines(CRecorderLink& link, int expected, CMeasureData& data, CReadBackObserver* observer);
+
 /// Fills `data` with the lines of the download that was started with `expected` lines, at most so
 /// many, and finishes the download. Gives the number of lines; where memory ends, the lines so far
 /// stand. A download can not be cancelled.

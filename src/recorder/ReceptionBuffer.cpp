@@ -71,14 +71,25 @@ std::uint64_t CReceptionBuffer::GetWritten() const
 std::string_view CReceptionBuffer::NextChunk()
 {
     std::unique_lock guard(m_rxLock);
-    const auto hasArrived = [this] { return HasArrived(); };
-    if (m_rxWrite == m_rxRead) {
-        m_rxWanted = 1;
-        m_rxArrived.wait(guard, hasArrived);
-        m_rxWanted = GatheredSize;
-        m_rxArrived.wait_for(guard, GatherTime, hasArrived);
-    }
+    if (m_rxWrite == m_rxRead)
+        WaitForBytes(guard);
     return m_rxWrite > m_rxRead ? TakeChunk() : std::string_view("#");
+}
+
+void CReceptionBuffer::WaitForBytes(std::unique_lock<std::mutex>& guard)
+{
+    const auto hasArrived = [this] { return HasArrived(); };
+    m_rxWanted = 1;
+    if (m_whileWaiting) {
+        while (!m_rxArrived.wait_for(guard, WaitStep, hasArrived)) {
+            guard.unlock();
+            m_whileWaiting();
+            guard.lock();
+        }
+    }
+    m_rxArrived.wait(guard, hasArrived);
+    m_rxWanted = GatheredSize;
+    m_rxArrived.wait_for(guard, GatherTime, hasArrived);
 }
 
 std::string CReceptionBuffer::TakeAll()

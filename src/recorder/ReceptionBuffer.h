@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <string>
@@ -36,6 +37,8 @@ public:
 
     // The taking side.
 
+    /// Has `step` called every few hundredths of a second while a reader waits for bytes.
+    void SetWhileWaiting(std::function<void()> step) { m_whileWaiting = std::move(step); }
     [[nodiscard]] std::string_view NextChunk() override;
     /// All bytes not taken yet, once no more will come.
     [[nodiscard]] std::string TakeAll();
@@ -46,14 +49,18 @@ private:
     // goes on: on a fast wire it would be woken for every few bytes.
     static constexpr std::uint64_t GatheredSize = 32768;
     static constexpr std::chrono::milliseconds GatherTime{10};
+    /// Between two calls of `m_whileWaiting`.
+    static constexpr std::chrono::milliseconds WaitStep{20};
     using Block = std::array<char, BlockSize>;
 
+    void WaitForBytes(std::unique_lock<std::mutex>& guard);
     [[nodiscard]] std::string_view TakeChunk();
     [[nodiscard]] bool HasArrived() const
     {
         return m_rxWrite - m_rxRead >= m_rxWanted || m_finished;
     }
 
+    std::function<void()> m_whileWaiting; ///< empty where the reader just sleeps
     mutable std::mutex m_rxLock;
     std::condition_variable m_rxArrived;
     std::deque<std::unique_ptr<Block>> m_rxBuffer; ///< the first block holds the byte `m_rxRead`

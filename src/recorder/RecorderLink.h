@@ -10,10 +10,12 @@
 #include <atomic>
 #include <condition_variable>
 #include <cstdint>
+#include <functional>
 #include <mutex>
 #include <optional>
 #include <string_view>
 #include <thread>
+#include <utility>
 
 namespace skeldon {
 
@@ -74,6 +76,11 @@ public:
     int StartDownload();
     /// The next line, waiting for it; see `CRecordStream`. False at the end of the stream.
     bool NextRecord(CMeasureRecord& record);
+    /// Has `step` called every few hundredths of a second while `NextRecord` waits.
+    void SetWhileWaiting(std::function<void()> step)
+    {
+        m_rxBuffer.SetWhileWaiting(std::move(step));
+    }
     /// Waits for the thread, which may take the silence of 15 s, and closes the port. Tells `data`
     /// which quantities its lines carry.
     void FinishDownload(CMeasureData& data);

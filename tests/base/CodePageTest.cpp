@@ -111,6 +111,27 @@ TEST(ToUtf8, DecodesTextLongerThanAnyBuffer)
         ASSERT_EQ(utf8.substr(i, 2), "\xC3\xBC");
 }
 
+TEST(FromUtf8, EncodesForTheCodePage)
+{
+    EXPECT_EQ(FromUtf8("M\xC3\xBCller", CodePage::Western), "M\xFCller");
+    EXPECT_EQ(FromUtf8("\xE5\x8A\xA0\xE9\x80\x9F", CodePage::Japanese), "\x89\xC1\x91\xAC");
+}
+
+TEST(FromUtf8, ReplacesEachCharacterThatThePageDoesNotHoldByOneMark)
+{
+    EXPECT_EQ(FromUtf8("a\xE5\x8A\xA0\xF0\x9F\x98\x80z", CodePage::Western), "a??z");
+    EXPECT_EQ(FromUtf8("a\xFFz", CodePage::Western), "a?z");
+    EXPECT_EQ(FromUtf8("a\xE5", CodePage::Western), "a?");
+}
+
+TEST(FromUtf8, EncodesTextLongerThanAnyBuffer)
+{
+    std::string text;
+    for (int i = 0; i < 1000; ++i)
+        text += "\xC3\xBC";
+    EXPECT_EQ(FromUtf8(text, CodePage::Western), std::string(1000, '\xFC'));
+}
+
 TEST(IsUtf8, RefusesWhatIsNotWellFormed)
 {
     for (const std::string_view good :

@@ -113,5 +113,22 @@ TEST(ReceptionBuffer, WakesAReaderAtTheEnd)
     EXPECT_TRUE(ended);
 }
 
+TEST(ReceptionBuffer, CallsWhatIsToBeDoneWhileAReaderWaits)
+{
+    CReceptionBuffer buffer;
+    buffer.Start(100);
+    int steps = 0;
+    buffer.SetWhileWaiting([&] {
+        if (++steps == 3)
+            buffer.Append("0123");
+        if (steps > 3)
+            buffer.Finish();
+    });
+    EXPECT_EQ(buffer.NextChunk(), "0123");
+    EXPECT_EQ(steps, 3);
+    EXPECT_EQ(buffer.NextChunk(), "#");
+    EXPECT_EQ(steps, 4);
+}
+
 } // namespace
 } // namespace skeldon

@@ -10,12 +10,14 @@ namespace {
 
 constexpr std::string_view Replacement = "\xEF\xBF\xBD";
 
-/// An open conversion to UTF-8, or none where the system does not know the page.
+constexpr const char* Utf8Name = "UTF-8";
+
+/// An open conversion, or none where the system does not know one of the pages.
 class CConversion
 {
 public:
-    explicit CConversion(CodePage page)
-        : m_handle(iconv_open("UTF-8", std::string(CodePageName(page)).c_str()))
+    CConversion(const std::string& to, const std::string& from)
+        : m_handle(iconv_open(to.c_str(), from.c_str()))
     {}
     ~CConversion()
     {
@@ -54,7 +56,7 @@ std::string ToUtf8(std::string_view bytes, CodePage page)
 {
     if (IsUtf8(bytes))
         return std::string(bytes);
-    CConversion conversion(page);
+    CConversion conversion(Utf8Name, std::string(CodePageName(page)));
     std::string text;
     while (!bytes.empty()) {
         const std::string part = conversion.IsOpen() ? conversion.Convert(bytes) : std::string();
@@ -65,6 +67,26 @@ std::string ToUtf8(std::string_view bytes, CodePage page)
         }
     }
     return text;
+}
+
+std::string FromUtf8(std::string_view text, CodePage page)
+{
+    constexpr unsigned char ContinuationMask = 0xC0;
+    constexpr unsigned char Continuation = 0x80;
+    CConversion conversion(std::string(CodePageName(page)), Utf8Name);
+    std::string bytes;
+    while (!text.empty()) {
+        const std::string part = conversion.IsOpen() ? conversion.Convert(text) : std::string();
+        bytes += part;
+        if (part.empty() && !text.empty()) {
+            bytes += '?';
+            do
+                text.remove_prefix(1);
+            while (!text.empty() &&
+                   (static_cast<unsigned char>(text.front()) & ContinuationMask) == Continuation);
+        }
+    }
+    return bytes;
 }
 
 } // namespace skeldon

@@ -29,7 +29,8 @@ QString Text(StringId id)
 std::span<const std::span<const StringEntry>> StringTableParts()
 {
     static const std::array parts{
-        FrameTexts(), MenusTexts(), DataViewTexts(), ControlsTexts(), AdditionsTexts(),
+        FrameTexts(),    MenusTexts(), DataViewTexts(), ControlsTexts(), ChartTexts(),
+        RecorderTexts(), SetupTexts(), WizardTexts(),   SettingsTexts(), AdditionsTexts(),
     };
     return parts;
 }

@@ -18,8 +18,10 @@ enum class StringId
     PaneModel,      ///< model name, full scale in G
     PaneModelAlpha, ///< model name, full scale in G
     PaneRelease,
+    ButtonOk,
+    ButtonCancel,
+    ButtonClose,
     AboutVersion,
-    CollateNotSupported,
 
     // Menus of both views.
     MenuFile,
@@ -86,6 +88,7 @@ enum class StringId
     MenuListDeleteSelected,
     MenuListDeleteIllegal,
     MenuListCopyCsv,
+    MenuChartPopupCopy,
     MenuListDisplayExtract,
 
     // Data view: buttons.
@@ -199,9 +202,236 @@ enum class StringId
     FloatRangeNamed, ///< upper, lower bound, name; in Japanese name, lower, upper
     ProfileNameCharacters,
 
+    // Chart.
+    ChartNoMemory,
+    MakingChart,
+    ChartAxes,
+    ChartUnitG,
+    ChartUnitMs2,
+    ChartUnitGal,
+    ChartTemperature,
+    ChartHumidity,
+    ChartTime,
+    ChartElapsedTime,
+
+    // Chart properties.
+    TitleChartProperties,
+    ChartColor,
+    ChartColorX,
+    ChartColorY,
+    ChartColorZ,
+    ChartColorResultant,
+    ChartColorTemperature,
+    ChartColorHumidity,
+    ChartColorDirection,
+    ChartColorMark,
+    ChartBrowse,
+    ChartStandardColors,
+    ChartScreenLines,
+    ChartPrintLines,
+    ChartThin,
+    ChartThick,
+    ChartTimeFormat,
+    ChartFormatTime,
+    ChartFormatElapsed,
+    ChartPrintTitle,
+
+    // Printing.
+    PrintList,
+    PrintChart,
+    PrintRangeOfChart,
+    PrintChartIsView,
+    PrintRangeOfList,
+    PrintRangeTemplate,
+    PrintRangeLines, ///< number of lines
+    PrintCollate,
+    PrintPreview,
+    PrintOptions,
+    PrintAdvancedChart,
+    PrintAdvancedList,
+    PrintMargins, ///< millimetres
+    PrintZoom,    ///< lowest, highest percent
+    PrintNoMemory,
+    CollateNotSupported,
+    PrintTooSmall,
+    PrintListHead, ///< file name, page, number of pages
+
+    // Operations on the recorder.
+    TitleCable,
+    DisconnectCable,
+    AskCalibrate,
+    CouldNotCalibrate,
+    AskAdjustTemperature,
+    CouldNotAdjustTemperature,
+    FailedToAdjustHostNumber,
+    RemoveCable,
+    DatesCorrected,
+
+    // Monitor window.
+    TitleMonitor,
+    MonitorAlwaysWatched,
+    MonitorMaxLines,
+    MonitorSet,
+    MonitorCalibrate,
+    MonitorCommand,
+    MonitorCopy,
+    MonitorClear,
+
+    // Online recording.
+    OnlineSeconds,
+    TitleOnlineConfiguration,
+    OnlineMaximumTime,
+    OnlineMaximumTimeUnit,
+    OnlineListMinutes, ///< seconds, whole minutes
+    OnlineMaximumName,
+
+    // Fitting of conditions to the connected recorder.
+    AskSamplingStandard, ///< the standard value
+    StandardSampling,
+    AskIntervalStandard, ///< the standard value
+    StandardInterval,
+    AskThresholdZero,
+    AskThresholdApproximate, ///< G
+    NoHazard,
+    AskHazardCancel,
+    AskHazardApproximate, ///< G
+    NoEndless,
+    NoBuzzer,
+    AskIntervalDefault,
+    AutomaticNeedsUpdate,
+    SamplingOutOfRange,
+
+    // Condition values in words.
+    SamplingSeconds,
+    SamplingTraceMode,
+    IntervalMinutes,
+    IntervalSeconds,
+    StartPromptly,
+    StartOnMagnet,
+    StartStopOnMagnet,
+    StartPauseOnMagnet,
+    StartPauseOffMagnet,
+    StartAfterSeconds, ///< seconds
+
+    // Setup view: controls.
+    ButtonPromptMeasuring,
+    ButtonReservedMeasuring,
+    LabelProfile,
+    LabelTemplate,
+    ButtonAdd,
+    ButtonUpdate,
+    ButtonDelete,
+    ButtonReceive,
+    ButtonProfile,
+    ButtonTemplate,
+    ButtonChange,
+    ButtonRestore,
+    ButtonWizard,
+    PanelInterval,
+    PanelThreshold,
+    PanelDetectOver,
+    PanelId,
+    PanelStartOption,
+    PanelHazard,
+    PanelEndless,
+    PanelBuzzer,
+    PanelSampling,
+    PanelRecords,
+    ButtonDataDisplay,
+    ButtonAutomatic,
+    ButtonCalibrateWizard,
+
+    // Setup view: operations.
+    NoFurtherRegistration,
+    AskRegisterAs, ///< the old number, the offered one
+    CouldNotSaveProfile,
+    AskDeleteProfile, ///< profile name
+    FailedToReceive,
+    StartOptionOutOfRange,
+    BuzzerOnlyWithAlpha,
+    AskChangeRange, ///< G
+    RangeChanged,
+    RangeChangeError,
+    Connecting,
+
+    // Start of a measurement.
+    TitleReservedStart,
+    StartOptionInvalid,
+    StartDateTime,
+    StartDate,
+    StartTime,
+    ReservationInPast,
+    AskStart,              ///< a word, empty for none
+    AskStartAfterClearing, ///< a word, empty for none
+    AskStartAndClear,      ///< a word, empty for none
+    StartQuestionTail,     ///< the start option in words
+    CouldNotStart,
+
+    // Setup wizard: heading and description of each page.
+    WizardSampling,
+    WizardSamplingText,
+    WizardInterval,
+    WizardIntervalText,
+    WizardThreshold,
+    WizardThresholdText,
+    WizardDetectOver,
+    WizardDetectOverText,
+    WizardId,
+    WizardIdText,
+    WizardStartOption,
+    WizardStartOptionText,
+    WizardHazard,
+    WizardHazardText,
+    WizardEndless,
+    WizardEndlessText,
+    WizardBuzzer,
+    WizardBuzzerText,
+
+    // Settings sheet.
+    TitleConfiguration,
+    PageFile,
+    FileWizard,
+    FileInteractively,
+    FileCardForm,
+    FileConfirmSaved,
+    FilePrompt,
+    FileNotPrompt,
+    FileProhibitUpdate,
+    PageCsv,
+    CsvPageResultant,
+    CsvPageTemperature,
+    CsvPageHumidity,
+    CsvPageDateTime,
+    CsvPageUnit,
+    CsvPageUnitG,
+    CsvPageUnitMs2,
+    CsvPageUnitGal,
+    CsvPageRavelin,
+    PageDisplay,
+    DisplayColor,
+    DisplayClassic,
+    DisplayWindowsXp,
+    ColorAtNextStart,
+
+    // Card form of the conditions.
+    TitleConditionOption,
+    OptionSampling,
+    OptionInterval,
+    OptionThreshold,
+    OptionG,
+    OptionDetectAbove,
+    OptionEndless,
+    OptionBuzzer,
+    OptionId,
+    OptionStartOption,
+    OptionHazard,
+    ThresholdsName,
+    HostNumberName,
+    StartOptionName,
+    HostNumberInUse, ///< host number
+
     // Boxes and reasons of this system.
     AskReplaceFile,      ///< path
-    PathAndReason,       ///< path, the reason the system gives
     CannotDeleteReason,  ///< path, the reason the system gives
     FailedToWriteReason, ///< path, the reason the system gives
     AboutCopyright,
@@ -241,6 +471,30 @@ enum class StringId
     ValueSeconds,       ///< seconds
     ValueMinutes,       ///< minutes
     ValueAcceleration,  ///< G
+    NameFieldUp,        ///< caption of the field
+    NameFieldDown,      ///< caption of the field
+    NameFieldToggle,    ///< caption of the field
+    NameProfileList,
+    NameTemplateList,
+    NameProfileName,
+    NameMonitorLines,
+    NameCenterButton,
+    NameAllAreaButton,
+    NameBarButton,
+    NameElapsed,
+    NameTotal,
+
+    // Wizard and print dialog: what the system's own dialogs would bring.
+    WizardBack,
+    WizardNext,
+    WizardFinish,
+    TitlePrint,
+    PrintPrinter,
+    PrintPrinterName,
+    PrintPrinterProperties,
+    PrintCopies,
+    PrintFirstLine,
+    PrintLastLine,
 
     Count,
 };

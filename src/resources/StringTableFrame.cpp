@@ -14,10 +14,10 @@ constexpr StringEntry Entries[] = {
     {StringId::PaneModelAlpha,
      QT_TRANSLATE_NOOP3("StringTable", " %s(Max %.1fG) Alpha", "PaneModelAlpha")},
     {StringId::PaneRelease, QT_TRANSLATE_NOOP3("StringTable", "RLS=", "PaneRelease")},
+    {StringId::ButtonOk, QT_TRANSLATE_NOOP3("StringTable", "OK", "ButtonOk")},
+    {StringId::ButtonCancel, QT_TRANSLATE_NOOP3("StringTable", "Cancel", "ButtonCancel")},
+    {StringId::ButtonClose, QT_TRANSLATE_NOOP3("StringTable", "Close", "ButtonClose")},
     {StringId::AboutVersion, QT_TRANSLATE_NOOP3("StringTable", "SKELDON Version", "AboutVersion")},
-    {StringId::CollateNotSupported,
-     QT_TRANSLATE_NOOP3("StringTable", "This printer does not support Collate Copies.",
-                        "CollateNotSupported")},
 };
 
 static_assert(FollowsEnum(Entries));

@@ -113,6 +113,8 @@ constexpr StringEntry Entries[] = {
      QT_TRANSLATE_NOOP3("StringTable", "Delete &illegal lines", "MenuListDeleteIllegal")},
     {StringId::MenuListCopyCsv,
      QT_TRANSLATE_NOOP3("StringTable", "&Copy in CSV format", "MenuListCopyCsv")},
+    {StringId::MenuChartPopupCopy,
+     QT_TRANSLATE_NOOP3("StringTable", "&Copy graph", "MenuChartPopupCopy")},
     {StringId::MenuListDisplayExtract,
      QT_TRANSLATE_NOOP3("StringTable", "Disp&lay extract condition", "MenuListDisplayExtract")},
 };

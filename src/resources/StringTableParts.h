@@ -20,6 +20,11 @@ consteval bool FollowsEnum(std::span<const StringEntry> entries)
 [[nodiscard]] std::span<const StringEntry> MenusTexts();
 [[nodiscard]] std::span<const StringEntry> DataViewTexts();
 [[nodiscard]] std::span<const StringEntry> ControlsTexts();
+[[nodiscard]] std::span<const StringEntry> ChartTexts();
+[[nodiscard]] std::span<const StringEntry> RecorderTexts();
+[[nodiscard]] std::span<const StringEntry> SetupTexts();
+[[nodiscard]] std::span<const StringEntry> WizardTexts();
+[[nodiscard]] std::span<const StringEntry> SettingsTexts();
 [[nodiscard]] std::span<const StringEntry> AdditionsTexts();
 
 } // namespace skeldon

@@ -1,0 +1,206 @@
+#include "resources/StringTableParts.h"
+
+namespace skeldon {
+
+namespace {
+
+constexpr StringEntry Entries[] = {
+    // Fitting of conditions to the connected recorder.
+    {StringId::AskSamplingStandard,
+     QT_TRANSLATE_NOOP3("StringTable",
+                        "This sampling rate cannot be used with the connected KORVA.\nWill you "
+                        "scan using the standard value %s?",
+                        "AskSamplingStandard")},
+    {StringId::StandardSampling,
+     QT_TRANSLATE_NOOP3("StringTable", "0.0312sec", "StandardSampling")},
+    {StringId::AskIntervalStandard,
+     QT_TRANSLATE_NOOP3("StringTable",
+                        "This recording interval cannot be used with the connected KORVA.\nWill "
+                        "you scan using the standard value %s?",
+                        "AskIntervalStandard")},
+    {StringId::StandardInterval, QT_TRANSLATE_NOOP3("StringTable", "1min", "StandardInterval")},
+    {StringId::AskThresholdZero,
+     QT_TRANSLATE_NOOP3("StringTable",
+                        "This threshold cannot be used with the connected KORVA.\nWill you scan "
+                        "with the threshold value of 0.0G?",
+                        "AskThresholdZero")},
+    {StringId::AskThresholdApproximate,
+     QT_TRANSLATE_NOOP3("StringTable",
+                        "This threshold cannot be used with the connected KORVA.\nWill you scan "
+                        "using the approximate value %.1fG?",
+                        "AskThresholdApproximate")},
+    {StringId::NoHazard,
+     QT_TRANSLATE_NOOP3("StringTable", "You cannot use the hazard with the connected KORVA.",
+                        "NoHazard")},
+    {StringId::AskHazardCancel,
+     QT_TRANSLATE_NOOP3("StringTable",
+                        "This hazard value cannot be used with the connected KORVA.\nWill you "
+                        "cancel the hazard value and scan?",
+                        "AskHazardCancel")},
+    {StringId::AskHazardApproximate,
+     QT_TRANSLATE_NOOP3("StringTable",
+                        "This hazard value cannot be used with the connected KORVA.\nWill you scan "
+                        "using the approximate value %.1fG?",
+                        "AskHazardApproximate")},
+    {StringId::NoEndless,
+     QT_TRANSLATE_NOOP3(
+         "StringTable",
+         "You cannot use the Endless mode (Cyclic Recording) with the connected KORVA.",
+         "NoEndless")},
+    {StringId::NoBuzzer,
+     QT_TRANSLATE_NOOP3("StringTable", "You cannot use the buzzer with the connected KORVA.",
+                        "NoBuzzer")},
+    {StringId::AskIntervalDefault,
+     QT_TRANSLATE_NOOP3("StringTable",
+                        "Specified recording intervals is not available to the connected "
+                        "KORVA.\nDo you want to measure by using the default value?",
+                        "AskIntervalDefault")},
+    {StringId::AutomaticNeedsUpdate,
+     QT_TRANSLATE_NOOP3(
+         "StringTable",
+         "To preserve the settings of the automatic operation, you may need to Add and Update.",
+         "AutomaticNeedsUpdate")},
+    {StringId::SamplingOutOfRange,
+     QT_TRANSLATE_NOOP3("StringTable",
+                        "Sampling cycle is out of supported range. Default value is set",
+                        "SamplingOutOfRange")},
+
+    // Condition values in words.
+    {StringId::SamplingSeconds, QT_TRANSLATE_NOOP3("StringTable", " sec", "SamplingSeconds")},
+    {StringId::SamplingTraceMode,
+     QT_TRANSLATE_NOOP3("StringTable", " Trace mode", "SamplingTraceMode")},
+    {StringId::IntervalMinutes, QT_TRANSLATE_NOOP3("StringTable", " minute", "IntervalMinutes")},
+    {StringId::IntervalSeconds, QT_TRANSLATE_NOOP3("StringTable", " sec", "IntervalSeconds")},
+    {StringId::StartPromptly,
+     QT_TRANSLATE_NOOP3("StringTable", "Promptly, start measuring", "StartPromptly")},
+    {StringId::StartOnMagnet,
+     QT_TRANSLATE_NOOP3("StringTable", "Magnet trigger only on start measuring", "StartOnMagnet")},
+    {StringId::StartStopOnMagnet,
+     QT_TRANSLATE_NOOP3("StringTable",
+                        "Magnet on start measuring. After start, measuring stop on magnet",
+                        "StartStopOnMagnet")},
+    {StringId::StartPauseOnMagnet,
+     QT_TRANSLATE_NOOP3("StringTable",
+                        "Magnet on start measuring. After start, measuring pause on magnet. "
+                        "Restart on releasing magnet",
+                        "StartPauseOnMagnet")},
+    {StringId::StartPauseOffMagnet,
+     QT_TRANSLATE_NOOP3("StringTable",
+                        "Magnet on start measuring. After start, measuring pause on releasing "
+                        "magnet. Restart on magnet",
+                        "StartPauseOffMagnet")},
+    {StringId::StartAfterSeconds,
+     QT_TRANSLATE_NOOP3("StringTable", "Start measuring in %d seconds", "StartAfterSeconds")},
+
+    // Setup view: controls.
+    {StringId::ButtonPromptMeasuring,
+     QT_TRANSLATE_NOOP3("StringTable", "Prmpt Measuring", "ButtonPromptMeasuring")},
+    {StringId::ButtonReservedMeasuring,
+     QT_TRANSLATE_NOOP3("StringTable", "Rsrvd Measuring", "ButtonReservedMeasuring")},
+    {StringId::LabelProfile, QT_TRANSLATE_NOOP3("StringTable", "Profile", "LabelProfile")},
+    {StringId::LabelTemplate, QT_TRANSLATE_NOOP3("StringTable", "Template", "LabelTemplate")},
+    {StringId::ButtonAdd, QT_TRANSLATE_NOOP3("StringTable", "Add", "ButtonAdd")},
+    {StringId::ButtonUpdate, QT_TRANSLATE_NOOP3("StringTable", "Update", "ButtonUpdate")},
+    {StringId::ButtonDelete, QT_TRANSLATE_NOOP3("StringTable", "Delete", "ButtonDelete")},
+    {StringId::ButtonReceive, QT_TRANSLATE_NOOP3("StringTable", "Receive", "ButtonReceive")},
+    {StringId::ButtonProfile, QT_TRANSLATE_NOOP3("StringTable", "Profile", "ButtonProfile")},
+    {StringId::ButtonTemplate, QT_TRANSLATE_NOOP3("StringTable", "Template", "ButtonTemplate")},
+    {StringId::ButtonChange, QT_TRANSLATE_NOOP3("StringTable", "Change", "ButtonChange")},
+    {StringId::ButtonRestore, QT_TRANSLATE_NOOP3("StringTable", "Restore", "ButtonRestore")},
+    {StringId::ButtonWizard, QT_TRANSLATE_NOOP3("StringTable", "Wizard of Setup", "ButtonWizard")},
+    {StringId::PanelInterval, QT_TRANSLATE_NOOP3("StringTable", "R Interval", "PanelInterval")},
+    {StringId::PanelThreshold, QT_TRANSLATE_NOOP3("StringTable", "Threshold", "PanelThreshold")},
+    {StringId::PanelDetectOver,
+     QT_TRANSLATE_NOOP3("StringTable", "Detect Over T", "PanelDetectOver")},
+    {StringId::PanelId, QT_TRANSLATE_NOOP3("StringTable", "ID", "PanelId")},
+    {StringId::PanelStartOption,
+     QT_TRANSLATE_NOOP3("StringTable", "Start Option", "PanelStartOption")},
+    {StringId::PanelHazard, QT_TRANSLATE_NOOP3("StringTable", "Hazard", "PanelHazard")},
+    {StringId::PanelEndless, QT_TRANSLATE_NOOP3("StringTable", "Endless", "PanelEndless")},
+    {StringId::PanelBuzzer, QT_TRANSLATE_NOOP3("StringTable", "Buzzer", "PanelBuzzer")},
+    {StringId::PanelSampling, QT_TRANSLATE_NOOP3("StringTable", "Sampling", "PanelSampling")},
+    {StringId::PanelRecords, QT_TRANSLATE_NOOP3("StringTable", "# of Records", "PanelRecords")},
+    {StringId::ButtonDataDisplay,
+     QT_TRANSLATE_NOOP3("StringTable", "Data Display", "ButtonDataDisplay")},
+    {StringId::ButtonAutomatic,
+     QT_TRANSLATE_NOOP3("StringTable", "Auto Oprtin", "ButtonAutomatic")},
+    {StringId::ButtonCalibrateWizard,
+     QT_TRANSLATE_NOOP3("StringTable", "Wizard of Calibrate", "ButtonCalibrateWizard")},
+
+    // Setup view: operations.
+    {StringId::NoFurtherRegistration,
+     QT_TRANSLATE_NOOP3("StringTable",
+                        "No further registration is available.\nDelete unnecessary profiles.",
+                        "NoFurtherRegistration")},
+    {StringId::AskRegisterAs,
+     QT_TRANSLATE_NOOP3(
+         "StringTable",
+         "Host number (ID) %d is not allowed. Are you sure you want to register it as %d ?",
+         "AskRegisterAs")},
+    {StringId::CouldNotSaveProfile,
+     QT_TRANSLATE_NOOP3("StringTable", "Could not save profile.", "CouldNotSaveProfile")},
+    {StringId::AskDeleteProfile,
+     QT_TRANSLATE_NOOP3("StringTable", "Are you sure you want to delete \n%s ?",
+                        "AskDeleteProfile")},
+    {StringId::FailedToReceive,
+     QT_TRANSLATE_NOOP3("StringTable", "Failed to receive the values of KORVA settings.",
+                        "FailedToReceive")},
+    {StringId::StartOptionOutOfRange,
+     QT_TRANSLATE_NOOP3("StringTable",
+                        "Start option is out of supported range. Default value is set",
+                        "StartOptionOutOfRange")},
+    {StringId::BuzzerOnlyWithAlpha,
+     QT_TRANSLATE_NOOP3("StringTable", "Buzzer configuration valid only with QM70 Alpha",
+                        "BuzzerOnlyWithAlpha")},
+    {StringId::AskChangeRange,
+     QT_TRANSLATE_NOOP3("StringTable",
+                        "Will you change the maximum scanning level of KORVA to %.1fG?",
+                        "AskChangeRange")},
+    {StringId::RangeChanged,
+     QT_TRANSLATE_NOOP3("StringTable",
+                        "The maximum scanning level of KORVA has been changed successfully.",
+                        "RangeChanged")},
+    {StringId::RangeChangeError,
+     QT_TRANSLATE_NOOP3("StringTable",
+                        "An error has occurred while changing the maximum scanning level of KORVA.",
+                        "RangeChangeError")},
+    {StringId::Connecting, QT_TRANSLATE_NOOP3("StringTable", "Connecting KORVA ...", "Connecting")},
+
+    // Start of a measurement.
+    {StringId::TitleReservedStart,
+     QT_TRANSLATE_NOOP3("StringTable", "Reserved measurement start", "TitleReservedStart")},
+    {StringId::StartOptionInvalid,
+     QT_TRANSLATE_NOOP3("StringTable", "Start option is invalid.", "StartOptionInvalid")},
+    {StringId::StartDateTime,
+     QT_TRANSLATE_NOOP3("StringTable", "Start date and time", "StartDateTime")},
+    {StringId::StartDate, QT_TRANSLATE_NOOP3("StringTable", "&Date :", "StartDate")},
+    {StringId::StartTime, QT_TRANSLATE_NOOP3("StringTable", "&Time :", "StartTime")},
+    {StringId::ReservationInPast,
+     QT_TRANSLATE_NOOP3("StringTable", "Reservation date should be in the future.",
+                        "ReservationInPast")},
+    {StringId::AskStart,
+     QT_TRANSLATE_NOOP3("StringTable", "Start %smeasuring.\nAre you sure?", "AskStart")},
+    {StringId::AskStartAfterClearing,
+     QT_TRANSLATE_NOOP3("StringTable",
+                        "Start %smeasuring after clearing the measured KORVA data.\nAre you sure?",
+                        "AskStartAfterClearing")},
+    {StringId::AskStartAndClear,
+     QT_TRANSLATE_NOOP3("StringTable",
+                        "Start %smeasuring.\nDo you want to clear the KORVA measured data?",
+                        "AskStartAndClear")},
+    {StringId::StartQuestionTail,
+     QT_TRANSLATE_NOOP3("StringTable", "\n\n[ %s ]", "StartQuestionTail")},
+    {StringId::CouldNotStart,
+     QT_TRANSLATE_NOOP3("StringTable", "Could not start measuring.", "CouldNotStart")},
+};
+
+static_assert(FollowsEnum(Entries));
+
+} // namespace
+
+std::span<const StringEntry> SetupTexts()
+{
+    return Entries;
+}
+
+} // namespace skeldon

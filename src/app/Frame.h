@@ -2,6 +2,8 @@
 
 #include <QString>
 
+class QWidget;
+
 namespace skeldon {
 
 /// Which of the main window's two views.
@@ -33,6 +35,9 @@ public:
     virtual void EnableSystemClose(bool enabled) = 0;
     /// A view agreed to the end of the program.
     virtual void CloseFrame() = 0;
+    [[nodiscard]] virtual QWidget* Window() = 0;
+    /// Makes both views and shows the window with one of them. False where a view can not be made.
+    virtual bool BuildViews(ViewIndex first) = 0;
 };
 
 } // namespace skeldon

@@ -32,8 +32,10 @@ std::optional<std::uint32_t> CSharedLink::GetHoldFlag()
     if (m_mutex.TryLock() == CLockFile::Outcome::HeldElsewhere)
         return std::nullopt;
     std::uint32_t flag = m_block.GetWords()[Hold];
-    if (flag != 0 && m_block.IsAlone())
-        flag = m_block.GetWords()[Hold] = 0;
+    if (flag != 0 && m_block.IsAlone()) {
+        flag = 0;
+        m_block.GetWords()[Hold] = flag;
+    }
     m_mutex.Unlock();
     return flag;
 }

@@ -1,10 +1,16 @@
 #pragma once
 
 #include "app/Colour.h"
+#include "app/CommandLine.h"
+#include "app/Conversation.h"
 #include "app/Frame.h"
 #include "app/Prompts.h"
 #include "app/Settings.h"
+#include "app/SharedLink.h"
+#include "app/platform/LockFile.h"
+#include "recorder/RecorderLink.h"
 
+#include <functional>
 #include <memory>
 
 namespace skeldon {
@@ -17,31 +23,73 @@ enum class DispUnit
     Gal = 2,
 };
 
+/// What the application object works with and does not make itself, so that a test can give it
+/// something else.
+struct AppServices
+{
+    std::unique_ptr<CSettings> settings;
+    std::unique_ptr<CPrompts> prompts;
+    std::unique_ptr<CCableFinder> finder;
+    PortOpener opener;
+    CClock* clock = nullptr; ///< must outlive the application object
+    QString language;        ///< the system's language by its English name
+    /// Makes the main window, which the caller owns.
+    std::function<CFrame*()> makeFrame;
+    /// Shows the about box and waits until it is closed.
+    std::function<void(QWidget* parent)> showAbout;
+    /// Shows the settings sheet; true if it was closed with OK.
+    std::function<bool(QWidget* parent)> showSettings;
+};
+
 /// The one application object: what every window needs. Made first in `main` and gone last.
 class CSkeldonApp
 {
 public:
-    CSkeldonApp(std::unique_ptr<CSettings> settings, std::unique_ptr<CPrompts> prompts);
+    /// Known to all programs of the user; a second start finds it taken.
+    static constexpr const char* InstanceName = "brennick-works SKELDON MutexKey";
+
+    explicit CSkeldonApp(AppServices services);
     CSkeldonApp(const CSkeldonApp&) = delete;
     CSkeldonApp& operator=(const CSkeldonApp&) = delete;
     ~CSkeldonApp();
 
-    [[nodiscard]] CSettings& Settings() { return *m_settings; }
-    [[nodiscard]] CPrompts& Prompts() { return *m_prompts; }
+    /// The start sequence, with the words behind the program's name. False ends the process: the
+    /// program runs already, or the window can not be made. Shows no message.
+    bool InitInstance(const QStringList& words);
+    /// The end sequence.
+    void ExitInstance();
+    void ShowAbout(QWidget* parent);
+
+    [[nodiscard]] CSettings& Settings() { return *m_services.settings; }
+    [[nodiscard]] CPrompts& Prompts() { return *m_services.prompts; }
+    [[nodiscard]] const AppServices& Services() const { return m_services; }
+    /// The link to the recorder, once no conversation uses it.
+    [[nodiscard]] CRecorderLink& Link();
+    [[nodiscard]] CConversation& Conversation() { return m_conversation; }
     /// The main window; null while there is none. Set by the window itself.
     [[nodiscard]] CFrame* Frame() const { return m_frame; }
     void SetFrame(CFrame* frame) { m_frame = frame; }
+    [[nodiscard]] QWidget* MainWindow() const { return m_frame ? m_frame->Window() : nullptr; }
     /// Whether the system's language is Japanese.
     [[nodiscard]] bool IsJapanese() const;
+    /// What `m_dispUnit` stands for; any number but 1 and 2 is G.
+    [[nodiscard]] DispUnit GetDispUnit() const;
 
-    QString m_language;                    ///< the system's language by its English name
-    bool m_ctrlAtStart = false;            ///< Ctrl was held when the program started
-    ColourRef m_viewBaseColour = 0xD8E9EC; ///< face of the forms
-    DispUnit m_dispUnit = DispUnit::G;
+    CSkeldonCommandLine m_commandLine;
+    QString m_language;         ///< the system's language by its English name
+    bool m_ctrlAtStart = false; ///< Ctrl was held when the program started
+    CRecorderLink m_link;       ///< for use inside of a conversation; else see `Link`
+    CSharedLink m_sharedBlock;
+    ColourRef m_viewBaseColour = 1; ///< face of the forms
+    int m_dispUnit = 0;             ///< see `GetDispUnit`; kept as the settings store has it
 
 private:
-    std::unique_ptr<CSettings> m_settings;
-    std::unique_ptr<CPrompts> m_prompts;
+    void ReadColoursAndUnits();
+    void MakeDataFolder();
+
+    AppServices m_services;
+    CLockFile m_instanceMutex;
+    CConversation m_conversation;
     CFrame* m_frame = nullptr;
 };
 

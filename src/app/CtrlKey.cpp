@@ -1,0 +1,13 @@
+#include "app/CtrlKey.h"
+
+#include <QGuiApplication>
+
+namespace skeldon {
+
+bool IsCtrlDown()
+{
+    return qEnvironmentVariable("SKELDON_CTRL_AT_START") == QLatin1String("1") ||
+           QGuiApplication::queryKeyboardModifiers().testFlag(Qt::ControlModifier);
+}
+
+} // namespace skeldon

@@ -1,0 +1,93 @@
+#include "app/DesktopPrompts.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QMessageBox>
+
+namespace skeldon {
+
+namespace {
+
+struct BoxForm
+{
+    QMessageBox::Icon icon;
+    QMessageBox::StandardButtons buttons;
+    QMessageBox::StandardButton preselected;
+    QMessageBox::StandardButton escape;
+};
+
+BoxForm FormOf(BoxKind kind)
+{
+    switch (kind) {
+    case BoxKind::Warning:
+        return {QMessageBox::Warning, QMessageBox::Ok, QMessageBox::Ok, QMessageBox::Ok};
+    case BoxKind::Information:
+        return {QMessageBox::Information, QMessageBox::Ok, QMessageBox::Ok, QMessageBox::Ok};
+    case BoxKind::YesNo:
+        return {QMessageBox::Question, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes,
+                QMessageBox::No};
+    case BoxKind::NoYes:
+        return {QMessageBox::Question, QMessageBox::Yes | QMessageBox::No, QMessageBox::No,
+                QMessageBox::No};
+    case BoxKind::YesNoCancel:
+        return {QMessageBox::Question, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel,
+                QMessageBox::Cancel, QMessageBox::Cancel};
+    }
+    return {};
+}
+
+std::optional<QString> RunFileDialog(QFileDialog& dialog, const FileQuestion& question)
+{
+    dialog.setDirectory(question.folder);
+    dialog.setNameFilters(question.filters);
+    if (!question.name.isEmpty())
+        dialog.selectFile(question.name);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return std::nullopt;
+    return dialog.selectedFiles().constFirst();
+}
+
+} // namespace
+
+Answer CDesktopPrompts::ShowBox(QWidget* parent, BoxKind kind, const QString& text)
+{
+    const BoxForm form = FormOf(kind);
+    QMessageBox box(form.icon, QApplication::applicationDisplayName(), text, form.buttons, parent);
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(form.preselected);
+    box.setEscapeButton(form.escape);
+    switch (box.exec()) {
+    case QMessageBox::Yes:
+        return Answer::Yes;
+    case QMessageBox::No:
+        return Answer::No;
+    case QMessageBox::Ok:
+        return Answer::Ok;
+    default:
+        return Answer::Cancel;
+    }
+}
+
+std::optional<QString> CDesktopPrompts::AskOpenPath(QWidget* parent, const FileQuestion& question)
+{
+    QFileDialog dialog(parent, question.title);
+    dialog.setAcceptMode(QFileDialog::AcceptOpen);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    return RunFileDialog(dialog, question);
+}
+
+std::optional<QString> CDesktopPrompts::AskSavePath(QWidget* parent, const FileQuestion& question)
+{
+    QFileDialog dialog(parent, question.title);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    return RunFileDialog(dialog, question);
+}
+
+void CDesktopPrompts::Beep()
+{
+    QApplication::beep();
+}
+
+} // namespace skeldon

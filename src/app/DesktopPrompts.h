@@ -1,0 +1,17 @@
+#pragma once
+
+#include "app/Prompts.h"
+
+namespace skeldon {
+
+/// The desktop's own boxes and dialogs.
+class CDesktopPrompts final : public CPrompts
+{
+public:
+    Answer ShowBox(QWidget* parent, BoxKind kind, const QString& text) override;
+    std::optional<QString> AskOpenPath(QWidget* parent, const FileQuestion& question) override;
+    std::optional<QString> AskSavePath(QWidget* parent, const FileQuestion& question) override;
+    void Beep() override;
+};
+
+} // namespace skeldon

@@ -1,0 +1,95 @@
+#include "support/window/TestApp.h"
+
+#include "recorder/RecorderPort.h"
+
+#include <utility>
+
+namespace skeldon::test {
+
+Answer CScriptedPrompts::ShowBox(QWidget* /*parent*/, BoxKind kind, const QString& text)
+{
+    Show({Prompt::Kind::Box, kind, text, {}});
+    if (!m_answers.empty()) {
+        const Answer answer = m_answers.front();
+        m_answers.pop_front();
+        return answer;
+    }
+    switch (kind) {
+    case BoxKind::YesNo:
+        return Answer::Yes;
+    case BoxKind::NoYes:
+        return Answer::No;
+    case BoxKind::YesNoCancel:
+        return Answer::Cancel;
+    default:
+        return Answer::Ok;
+    }
+}
+
+std::optional<QString> CScriptedPrompts::AskOpenPath(QWidget* /*parent*/,
+                                                     const FileQuestion& question)
+{
+    Show({Prompt::Kind::OpenPath, {}, question.title, question});
+    return NextPath();
+}
+
+std::optional<QString> CScriptedPrompts::AskSavePath(QWidget* /*parent*/,
+                                                     const FileQuestion& question)
+{
+    Show({Prompt::Kind::SavePath, {}, question.title, question});
+    return NextPath();
+}
+
+QStringList CScriptedPrompts::Boxes() const
+{
+    QStringList texts;
+    for (const Prompt& prompt : m_shown) {
+        if (prompt.kind == Prompt::Kind::Box)
+            texts << prompt.text;
+    }
+    return texts;
+}
+
+std::optional<QString> CScriptedPrompts::NextPath()
+{
+    if (m_paths.empty())
+        return std::nullopt;
+    const std::optional<QString> path = m_paths.front();
+    m_paths.pop_front();
+    return path;
+}
+
+void CScriptedPrompts::Show(Prompt prompt)
+{
+    m_shown.push_back(std::move(prompt));
+    if (m_whileShown)
+        m_whileShown(m_shown.back());
+}
+
+std::optional<std::string> CTestCable::FindPort()
+{
+    return m_port.empty() ? std::nullopt : std::optional(m_port);
+}
+
+CTestApp::CTestApp(const QString& language, const QString& settings)
+    : m_settingsFile(settings.isEmpty() ? m_folder.filePath(QStringLiteral("settings.ini"))
+                                        : settings)
+{
+    auto prompts = std::make_unique<CScriptedPrompts>();
+    m_prompts = prompts.get();
+    AppServices services;
+    services.settings = std::make_unique<CSettings>(m_settingsFile);
+    services.prompts = std::move(prompts);
+    services.finder = std::make_unique<CTestCable>(m_port);
+    services.opener = SystemPortOpener();
+    services.clock = &m_clock;
+    services.language = language;
+    m_app = std::make_unique<CSkeldonApp>(std::move(services));
+    m_app->m_language = language;
+    m_app->m_viewBaseColour = 0xD8E9EC;
+    m_app->SetFrame(&m_frame);
+}
+
+CTestApp::~CTestApp() = default;
+
+} // namespace skeldon::test

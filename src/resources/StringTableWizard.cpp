@@ -54,8 +54,8 @@ constexpr StringEntry Entries[] = {
          "trigger only on start measuring\r\n2: Magnet on start measuring. After start, measuring "
          "stop on magnet\r\n3 Magnet on start measuring. After start, measuring pause on magnet. "
          "Restart on releasing magnet\r\n4: Magnet on start measuring. After start, measuring "
-         "pause on releasing magnet. Restart on magnet\r\n5\u301c90: Set the idling time (sec.) "
-         "after USB cable is disconnected till measuring starts.",
+         "pause on releasing magnet. Restart on magnet\r\n5〜90: Set the idling time (sec.) after "
+         "USB cable is disconnected till measuring starts.",
          "WizardStartOptionText")},
     {StringId::WizardHazard,
      QT_TRANSLATE_NOOP3("StringTable", "Configure hazard value.", "WizardHazard")},

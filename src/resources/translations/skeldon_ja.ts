@@ -846,12 +846,12 @@ Failed to write.</source>
     <message>
         <source>@@Hazard:%.1fG</source>
         <comment>SummaryHazard</comment>
-        <translation>　　危険値:%.1fG</translation>
+        <translation>&#x3000;&#x3000;危険値:%.1fG</translation>
     </message>
     <message>
         <source>@@Endless:on</source>
         <comment>SummaryEndlessOn</comment>
-        <translation>　　エンドレス:オン</translation>
+        <translation>&#x3000;&#x3000;エンドレス:オン</translation>
     </message>
     <message>
         <source>Decimals are allowed to %d.</source>

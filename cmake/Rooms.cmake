@@ -97,6 +97,14 @@ function(skeldon_qt_room target)
   target_precompile_headers(${target} REUSE_FROM skeldon_qt_headers)
 endfunction()
 
+# skeldon_qt_program(<name> <room>): Main.cpp of the calling folder on top of the room.
+function(skeldon_qt_program name room)
+  add_executable(${name} Main.cpp)
+  target_link_libraries(${name} PRIVATE skeldon_options ${room})
+  target_precompile_headers(${name} REUSE_FROM skeldon_qt_headers)
+  install(TARGETS ${name} RUNTIME)
+endfunction()
+
 # skeldon_window_test(<name> LIBS targets): every *Test.cpp of the calling folder holds one Qt Test
 # class and is one program, registered with CTest as <name>_<file>; run without a screen. What else
 # lies in the folder is common to them.

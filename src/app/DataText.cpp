@@ -14,4 +14,14 @@ std::string ToDataText(const QString& text)
     return FromUtf8(text.toStdString(), DataCodePage());
 }
 
+QString PrintableText(const QString& text)
+{
+    QString printable;
+    for (const QChar c : text) {
+        if (c.isPrint() || c.isSurrogate())
+            printable += c;
+    }
+    return printable;
+}
+
 } // namespace skeldon

@@ -13,4 +13,7 @@ namespace skeldon {
 /// The other way. What the code page does not hold becomes "?".
 [[nodiscard]] std::string ToDataText(const QString& text);
 
+/// `text` without the characters that have no shape, for drawing.
+[[nodiscard]] QString PrintableText(const QString& text);
+
 } // namespace skeldon

@@ -1,8 +1,10 @@
 #include "app/DesktopPrompts.h"
 
 #include <QApplication>
+#include <QDesktopServices>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QUrl>
 
 namespace skeldon {
 
@@ -83,6 +85,11 @@ std::optional<QString> CDesktopPrompts::AskSavePath(QWidget* parent, const FileQ
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
     return RunFileDialog(dialog, question);
+}
+
+void CDesktopPrompts::OpenPage(const QUrl& page)
+{
+    QDesktopServices::openUrl(page);
 }
 
 void CDesktopPrompts::Beep()

@@ -4,6 +4,7 @@
 
 #include <QSet>
 #include <QTemporaryDir>
+#include <QUrl>
 
 #include <deque>
 #include <memory>
@@ -35,12 +36,14 @@ public:
     Answer ShowBox(QWidget* parent, BoxKind kind, const QString& text) override;
     std::optional<QString> AskOpenPath(QWidget* parent, const FileQuestion& question) override;
     std::optional<QString> AskSavePath(QWidget* parent, const FileQuestion& question) override;
+    void OpenPage(const QUrl& page) override { m_pages.push_back(page); }
     void Beep() override { ++m_beeps; }
 
     /// Texts of the boxes so far.
     [[nodiscard]] QStringList Boxes() const;
 
     std::vector<Prompt> m_shown;
+    std::vector<QUrl> m_pages;
     std::deque<Answer> m_answers;
     std::deque<std::optional<QString>> m_paths;
     std::function<void(const Prompt&)> m_whileShown; ///< what happens while a prompt stands

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "app/Colour.h"
+#include "dataview/DataViewLayout.h"
+#include "resources/Commands.h"
+#include "resources/Pictures.h"
+#include "resources/StringTable.h"
+
+#include <cstdint>
+#include <span>
+
+namespace skeldon {
+
+/// What a button of the data view shows, gives and remembers.
+struct ButtonForm
+{
+    DataViewButton button;
+    CommandId command;
+    PictureId picture;
+    StringId caption;
+    StringId name;                   ///< for screen readers and as a tool tip
+    std::uint16_t series = 0;        ///< bit of the chart's series; 0 of any other button
+    const char* shownKey = nullptr;  ///< of a series: where its being shown is remembered
+    const char* colourKey = nullptr; ///< of a series: where its colour is remembered
+    ColourRef colour = 0;            ///< of a series: the colour without a remembered one
+
+    [[nodiscard]] bool IsSeries() const { return series != 0; }
+    /// Where the language does not call for words, the picture says it all.
+    [[nodiscard]] bool IsPictureOnly() const { return caption == name; }
+};
+
+/// All buttons in the order of `DataViewButton`.
+[[nodiscard]] std::span<const ButtonForm> ButtonForms();
+
+} // namespace skeldon

@@ -1,0 +1,141 @@
+#pragma once
+
+#include "app/View.h"
+#include "data/MeasureData.h"
+#include "dataview/ConditionSummary.h"
+#include "dataview/DataViewLayout.h"
+
+#include <array>
+#include <filesystem>
+
+namespace skeldon {
+
+class CChartWnd;
+class CConnectionIcon;
+class CMeasuredList;
+class CProgressWindow;
+class CSkinButton;
+struct ButtonForm;
+enum class DispUnit;
+enum class MeasureGraphCode;
+
+/// The form on which one measured data set is read back, opened, studied, saved and exported. It
+/// owns the data set; list and chart look at it.
+class CDisplayView : public CView
+{
+    Q_OBJECT
+
+public:
+    explicit CDisplayView(QWidget* parent = nullptr);
+    ~CDisplayView() override;
+
+    void OnInitialUpdate() override;
+    void OnCommand(CommandId command) override;
+    [[nodiscard]] CommandState StateOf(CommandId command) const override;
+    void OnUpdate(DocumentHint hint, int argument) override;
+    [[nodiscard]] QSize SmallestSize() const override;
+
+    // --- what can be done now ---
+
+    [[nodiscard]] bool CanOperate() const;
+    [[nodiscard]] bool HasData() const;
+    [[nodiscard]] bool CanSave() const;
+    [[nodiscard]] bool CanGetData() const;
+    [[nodiscard]] bool CanZoomIn() const;
+    [[nodiscard]] bool CanZoomOut() const;
+
+    [[nodiscard]] const CMeasureData& Data() const { return m_data; }
+    /// The data set, for changes from outside; `RefreshControls` must follow.
+    [[nodiscard]] CMeasureData& Data() { return m_data; }
+    /// What the window's title shows: empty, a path, or the word for unsaved data.
+    [[nodiscard]] QString DataPath() const { return m_strDataPath; }
+    [[nodiscard]] QString Summary() const { return m_strSummary; }
+    [[nodiscard]] CMeasuredList& List() { return *m_list; }
+    [[nodiscard]] CChartWnd& Chart() { return *m_chart; }
+    [[nodiscard]] CSkinButton& Button(DataViewButton button) const;
+
+    /// Brings title and buttons into line with what can be done now.
+    void RefreshControls();
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+private:
+    enum class SaveOutcome
+    {
+        Saved,
+        Cancelled,
+        Failed,
+    };
+
+    // Layout.
+    void MakeButtons();
+    void SetUpButtons();
+    void LayOut();
+    [[nodiscard]] CDataViewLayout Layout() const;
+    void ReadSettings();
+    void WriteSettings();
+    void ReadGeneralSettings();
+    void ShowSummary(const ConditionSummary& summary);
+    void PaintBands(QPainter& painter) const;
+    void PaintStrip(QPainter& painter) const;
+
+    // Commands.
+    [[nodiscard]] CommandState DormantState(CommandId command) const;
+    void ToggleSeries(const ButtonForm& series);
+    void ToggleZoomIn();
+    void SetDispUnit(DispUnit unit);
+    void LeaveForSetup();
+    void Exit();
+    void OnMeasureGraph(MeasureGraphCode code, int argument);
+    void EndAreaSelection(int argument);
+
+    // Files.
+    void Open();
+    void OpenPath(const QString& path);
+    void OpenStartFile();
+    bool LoadFile(const std::filesystem::path& path);
+    void Save();
+    SaveOutcome SaveAs();
+    bool SaveTo(const std::filesystem::path& target);
+    void ExportCsvFile();
+    void CopyCsv();
+    [[nodiscard]] QString ProposedName() const;
+    [[nodiscard]] QString FolderOf(const char* key) const;
+
+    // The data set.
+    [[nodiscard]] bool QuerySave();
+    void ClearData();
+    void AnalyseAndReport(bool repairYear);
+    void Pump();
+    void Warn(StringId text);
+
+    // Get data.
+    void GetData();
+    void RunReadBack(int expected);
+    void ReadBackLoop(CProgressWindow& window, int expected);
+
+    bool m_bViewReady = false;
+    bool m_bLayoutDone = false;
+    bool m_bBusy = false;
+    QString m_strDataPath;
+    QString m_strStartFile;
+    QString m_strUnsaved;
+    int m_listBorder = CDataViewLayout::DefaultListBorder;
+    bool m_bDragging = false;
+    int m_nDragOffset = 0;
+    CMeasureData m_data;
+    ExtractConditions m_extractCopy;
+    bool m_bSaveInfo = true;
+    QString m_strSummary;
+    std::array<CSkinButton*, static_cast<std::size_t>(DataViewButton::Count)> m_buttons{};
+    CConnectionIcon* m_connection;
+    CMeasuredList* m_list;
+    CChartWnd* m_chart;
+};
+
+} // namespace skeldon

@@ -1,0 +1,209 @@
+// How the data view stands in its window.
+#include "dataview/DisplayView.h"
+
+#include "app/DataText.h"
+#include "app/SkeldonApp.h"
+#include "chart/view/ChartWnd.h"
+#include "controls/ConnectionIcon.h"
+#include "controls/SkinButton.h"
+#include "dataview/ButtonForms.h"
+#include "dataview/MeasuredList.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <algorithm>
+
+namespace skeldon {
+
+namespace {
+
+constexpr ColourRef Grey = 0x808080;
+constexpr int SummaryFontHeight = 12;
+constexpr const char* ListBorderKey = "ListBorder";
+
+QString KeyOf(const char* key)
+{
+    return QString::fromLatin1(key);
+}
+
+} // namespace
+
+void CDisplayView::MakeButtons()
+{
+    for (const ButtonForm& form : ButtonForms()) {
+        auto* const button = new CSkinButton(this);
+        m_buttons[static_cast<std::size_t>(form.button)] = button;
+        button->SetName(Text(form.name));
+        connect(button, &CSkinButton::clicked, this, [this, &form] { OnCommand(form.command); });
+    }
+}
+
+void CDisplayView::SetUpButtons()
+{
+    const bool isJapanese = App().IsJapanese();
+    CSettings& settings = App().Settings();
+    for (const ButtonForm& form : ButtonForms()) {
+        CSkinButton& button = Button(form.button);
+        if (form.IsSeries())
+            button.SetUpSwatch(form.picture, form.IsPictureOnly() && !isJapanese);
+        else
+            button.SetUpPicture(form.picture);
+        button.SetTint(TintOf(App().m_viewBaseColour));
+        if (!form.IsPictureOnly() || isJapanese)
+            button.SetCaption(Text(form.caption));
+        if (!form.IsSeries())
+            continue;
+        button.SetSwatchColour(static_cast<ColourRef>(
+            settings.GetInt(SystemSection, KeyOf(form.colourKey), static_cast<int>(form.colour))));
+        const bool isShown = settings.GetInt(SystemSection, KeyOf(form.shownKey), 1) != 0;
+        button.SetPressed(isShown);
+        m_chart->SetSeriesShown(form.series, isShown);
+    }
+}
+
+void CDisplayView::ReadGeneralSettings()
+{
+    m_bSaveInfo = App().Settings().GetInt(SystemSection, QStringLiteral("SaveInfo"), 1) != 0;
+}
+
+void CDisplayView::ReadSettings()
+{
+    m_listBorder = App().Settings().GetInt(SystemSection, KeyOf(ListBorderKey),
+                                           CDataViewLayout::DefaultListBorder);
+    m_list->Setup(m_data);
+    m_chart->Attach(m_data);
+    SetUpButtons();
+}
+
+void CDisplayView::WriteSettings()
+{
+    CSettings& settings = App().Settings();
+    for (const ButtonForm& form : ButtonForms()) {
+        if (form.IsSeries())
+            settings.WriteInt(SystemSection, KeyOf(form.shownKey),
+                              Button(form.button).IsPressed() ? 1 : 0);
+    }
+    // Chart and list are always shown, and always were.
+    settings.WriteInt(SystemSection, QStringLiteral("ChkGraphView"), 1);
+    settings.WriteInt(SystemSection, QStringLiteral("ChkListView"), 1);
+    settings.WriteInt(SystemSection, KeyOf(ListBorderKey), m_listBorder);
+}
+
+CDataViewLayout CDisplayView::Layout() const
+{
+    return {size(), App().IsJapanese()};
+}
+
+void CDisplayView::resizeEvent(QResizeEvent* event)
+{
+    CView::resizeEvent(event);
+    if (!m_bViewReady)
+        return;
+    if (!m_bLayoutDone) {
+        m_bLayoutDone = true;
+        ReadSettings();
+        LayOut();
+        m_list->Rebuild();
+        RefreshControls();
+        if (!m_strStartFile.isEmpty())
+            QMetaObject::invokeMethod(this, &CDisplayView::OpenStartFile, Qt::QueuedConnection);
+        return;
+    }
+    LayOut();
+}
+
+void CDisplayView::LayOut()
+{
+    if (!m_bLayoutDone)
+        return;
+    const CDataViewLayout layout = Layout();
+    if (App().Frame()->IsPlacementRestored())
+        m_listBorder = layout.ClampListBorder(m_listBorder);
+    m_list->setGeometry(layout.List(m_listBorder));
+    m_chart->setGeometry(layout.Chart(m_listBorder));
+    m_list->show();
+    m_chart->show();
+    for (const ButtonForm& form : ButtonForms()) {
+        const QRect place = layout.Button(form.button);
+        Button(form.button).Move(place.x(), place.y(), place.width());
+    }
+    m_connection->setGeometry(layout.ConnectionIcon());
+    update();
+}
+
+void CDisplayView::ShowSummary(const ConditionSummary& summary)
+{
+    m_strSummary = SummaryText(summary);
+    setAccessibleDescription(m_strSummary);
+    repaint(Layout().Strip());
+}
+
+void CDisplayView::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    PaintBands(painter);
+    PaintStrip(painter);
+}
+
+void CDisplayView::PaintBands(QPainter& painter) const
+{
+    constexpr int TopBand = 33;
+    constexpr int BottomBand = 53;
+    constexpr int StripBand = 19;
+    const int width = this->width();
+    const int height = this->height();
+    const QColor grey = ToColour(Grey);
+    painter.fillRect(rect(), ToColour(App().m_viewBaseColour));
+    for (const int y : {0, TopBand + 1, height - BottomBand + 1})
+        painter.fillRect(0, y, width, 1, Qt::white);
+    painter.fillRect(0, 0, 1, height, Qt::white);
+    for (const int y : {TopBand, height - BottomBand, height - StripBand})
+        painter.fillRect(0, y, width, 1, grey);
+    painter.fillRect(width - 1, 0, 1, height, grey);
+}
+
+void CDisplayView::PaintStrip(QPainter& painter) const
+{
+    const QRect strip = Layout().Strip();
+    painter.fillRect(strip, ToColour(App().m_viewBaseColour));
+    QFont summary = font();
+    summary.setPixelSize(SummaryFontHeight);
+    painter.setFont(summary);
+    painter.setPen(Qt::black);
+    painter.drawText(strip, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+                     PrintableText(m_strSummary));
+}
+
+void CDisplayView::mousePressEvent(QMouseEvent* event)
+{
+    const bool isOnBar = Layout().Splitter(m_listBorder).contains(event->position().toPoint());
+    if (event->button() != Qt::LeftButton || !isOnBar || !m_bLayoutDone)
+        return;
+    m_bDragging = true;
+    m_nDragOffset = m_listBorder - static_cast<int>(event->position().y());
+}
+
+void CDisplayView::mouseMoveEvent(QMouseEvent* event)
+{
+    const QPoint point = event->position().toPoint();
+    if (!m_bDragging) {
+        const bool isOnBar = Layout().Splitter(m_listBorder).contains(point);
+        setCursor(isOnBar ? Qt::SplitVCursor : Qt::ArrowCursor);
+        return;
+    }
+    // The pointer counts only within the reach of the bar. The sign makes the bar jump by as much
+    // as it was grabbed below its top.
+    const CDataViewLayout layout = Layout();
+    const int y = layout.ClampListBorder(point.y());
+    m_listBorder = layout.ClampListBorder(y - m_nDragOffset);
+    LayOut();
+}
+
+void CDisplayView::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton)
+        m_bDragging = false;
+}
+
+} // namespace skeldon

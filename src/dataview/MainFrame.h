@@ -1,0 +1,97 @@
+#pragma once
+
+#include "app/Document.h"
+#include "app/Frame.h"
+#include "app/View.h"
+#include "dataview/WindowPlacement.h"
+
+#include <QLabel>
+#include <QMainWindow>
+
+#include <array>
+
+class QStackedLayout;
+
+namespace skeldon {
+
+class CDisplayView;
+class CFrameMenus;
+class CRecorderPoll;
+class CSetupView;
+
+/// The one top-level window: two views, of which one is shown at a time with a menu and a placement
+/// of its own, the status bar, and the look for the recorder.
+class CMainFrame : public QMainWindow, public CFrame
+{
+    Q_OBJECT
+
+public:
+    CMainFrame();
+    ~CMainFrame() override;
+
+    void SetStatusText(const QString& text) override;
+    void ResetStatus() override;
+    void SetCaption(const QString& text) override;
+    [[nodiscard]] bool IsConnected() const override;
+    [[nodiscard]] ViewIndex CurrentView() const override { return m_nCurrentView; }
+    void SwitchView(ViewIndex view) override;
+    [[nodiscard]] bool IsPlacementRestored() const override { return m_bPlacementRestored; }
+    void EnableSystemClose(bool enabled) override { m_closeEnabled = enabled; }
+    void CloseFrame() override;
+    [[nodiscard]] QWidget* Window() override { return this; }
+    bool BuildViews(ViewIndex first) override;
+
+    /// Shows a text in any of the three panes.
+    void SetPaneText(int pane, const QString& text);
+    [[nodiscard]] QString PaneText(int pane) const;
+    [[nodiscard]] CDisplayView& DisplayView() { return *m_display; }
+    [[nodiscard]] CSetupView& SetupView() { return *m_setup; }
+    [[nodiscard]] CSkeldonDoc& Document() { return m_document; }
+    [[nodiscard]] CRecorderPoll& Poll() { return *m_poll; }
+    /// The bar of the view that is shown.
+    [[nodiscard]] QMenuBar* MenuOf(ViewIndex view) const;
+    /// Carries out what a menu entry or key asks for.
+    void OnCommand(CommandId command);
+    [[nodiscard]] CommandState StateOf(CommandId command) const;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    static constexpr int PaneCount = 3;
+
+    [[nodiscard]] CView& ViewOf(ViewIndex view) const;
+    void MakeStatusBar();
+    void MakeMenus();
+    void MakeAccelerators();
+    void ShowConfiguration();
+    void OpenHelp();
+    void OpenSupport();
+    void OnConnection(bool connected, bool isForced);
+
+    // Placement.
+    [[nodiscard]] WindowPlacement CurrentPlacement() const;
+    void RestorePlacement();
+    void SavePlacement();
+    void SavePlacementAs(Qt::WindowStates states);
+    void FitToView();
+
+    CSkeldonDoc m_document;
+    bool m_bStarted = false;
+    CSetupView* m_setup = nullptr;
+    CDisplayView* m_display = nullptr;
+    ViewIndex m_nCurrentView = ViewIndex::Setup;
+    bool m_hasView = false; ///< a view was switched to
+    bool m_bPlacementRestored = false;
+    bool m_bFirstSwitch = false;
+    bool m_closeEnabled = true;
+    bool m_isClosing = false;
+    std::array<QLabel*, PaneCount> m_panes{};
+    std::array<QMenuBar*, 2> m_menus{};
+    QStackedLayout* m_views = nullptr;
+    CFrameMenus* m_frameMenus = nullptr;
+    CRecorderPoll* m_poll = nullptr;
+};
+
+} // namespace skeldon

@@ -1,0 +1,155 @@
+// Where the main window stands, and how large it is.
+#include "dataview/MainFrame.h"
+
+#include "app/CtrlKey.h"
+#include "app/SkeldonApp.h"
+#include "dataview/DisplayView.h"
+#include "setup/view/SetupView.h"
+
+#include <QGuiApplication>
+#include <QMenuBar>
+#include <QScreen>
+#include <QStackedLayout>
+#include <QStatusBar>
+#include <QWindowStateChangeEvent>
+
+#include <vector>
+
+namespace skeldon {
+
+namespace {
+
+constexpr int ViewBorder = 2;
+
+std::vector<QRect> Screens()
+{
+    std::vector<QRect> screens;
+    for (const QScreen* const screen : QGuiApplication::screens())
+        screens.push_back(screen->availableGeometry());
+    return screens;
+}
+
+} // namespace
+
+void CMainFrame::SwitchView(ViewIndex view)
+{
+    QPoint corner;
+    if (m_bStarted) {
+        SavePlacement();
+        corner =
+            ReadPlacement(App().Settings(), m_nCurrentView, CurrentPlacement()).normal.topLeft();
+    }
+    if (m_hasView)
+        MenuOf(m_nCurrentView)->hide();
+    m_nCurrentView = view;
+    m_hasView = true;
+    layout()->setMenuBar(MenuOf(view));
+    MenuOf(view)->show();
+    m_views->setCurrentIndex(static_cast<int>(view));
+    if (m_bStarted) {
+        // The window stays where it is, although each view has its own size.
+        FitToView();
+        WindowPlacement next = ReadPlacement(App().Settings(), view, CurrentPlacement());
+        next.normal.moveTopLeft(corner);
+        WritePlacement(App().Settings(), view, next);
+    }
+    RestorePlacement();
+    m_document.UpdateAllViews(DocumentHint::ActiveView, static_cast<int>(view));
+    ViewOf(view).update();
+    ViewOf(view).setFocus();
+}
+
+void CMainFrame::FitToView()
+{
+    const bool isSetup = m_nCurrentView == ViewIndex::Setup;
+    const QSize view = ViewOf(m_nCurrentView).SmallestSize();
+    statusBar()->setSizeGripEnabled(!isSetup);
+    setMinimumSize(0, 0);
+    setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    if (isSetup) {
+        centralWidget()->setFixedSize(view);
+    } else {
+        centralWidget()->setMinimumSize(view + QSize(2 * ViewBorder, 2 * ViewBorder));
+        centralWidget()->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    }
+    layout()->invalidate();
+    const QSize smallest = layout()->totalMinimumSize();
+    if (isSetup)
+        setFixedSize(smallest);
+    else
+        setMinimumSize(smallest);
+    if (!isMaximized() || isSetup)
+        resize(smallest);
+}
+
+WindowPlacement CMainFrame::CurrentPlacement() const
+{
+    WindowPlacement placement;
+    placement.showCommand = isMaximized() ? WindowPlacement::Maximised : WindowPlacement::Normal;
+    placement.normal = QRect(pos(), size());
+    if (isMaximized() || isMinimized() || isFullScreen()) {
+        const QPoint frame = geometry().topLeft() - frameGeometry().topLeft();
+        placement.normal = normalGeometry();
+        placement.normal.translate(-frame);
+    }
+    return placement;
+}
+
+void CMainFrame::RestorePlacement()
+{
+    m_bPlacementRestored = false;
+    FitToView();
+    if (IsCtrlDown())
+        return;
+    const bool isSetup = m_nCurrentView == ViewIndex::Setup;
+    const WindowPlacement current = CurrentPlacement();
+    WindowPlacement stored = ReadPlacement(App().Settings(), m_nCurrentView, current);
+    m_bPlacementRestored = !isSetup;
+    if (isSetup && m_bFirstSwitch) {
+        const QRect display = ReadPlacement(App().Settings(), ViewIndex::Display, {}).normal;
+        if (display.width() != 0)
+            stored.normal.moveTopLeft(display.topLeft());
+    }
+    const bool isMaximised = !isSetup && stored.showCommand == WindowPlacement::Maximised;
+    setWindowState(isMaximised ? windowState() | Qt::WindowMaximized
+                               : windowState() & ~Qt::WindowMaximized);
+    if (stored.normal == current.normal)
+        return;
+    const QRect wanted(stored.normal.topLeft(), stored.normal.size().expandedTo(minimumSize()));
+    const QRect rect = OnScreens(wanted, Screens());
+    move(rect.topLeft());
+    if (!isSetup && !isMaximised)
+        resize(rect.size());
+}
+
+void CMainFrame::SavePlacement()
+{
+    SavePlacementAs(windowState());
+}
+
+void CMainFrame::SavePlacementAs(Qt::WindowStates states)
+{
+    const bool isMaximised = states.testFlag(Qt::WindowMaximized);
+    if (states.testFlag(Qt::WindowMinimized) || (isMaximised && m_nCurrentView == ViewIndex::Setup))
+        return;
+    // What the window system does not tell stays as it was stored.
+    WindowPlacement placement = ReadPlacement(App().Settings(), m_nCurrentView, CurrentPlacement());
+    placement.normal = CurrentPlacement().normal;
+    placement.showCommand = isMaximised ? WindowPlacement::Maximised : WindowPlacement::Normal;
+    WritePlacement(App().Settings(), m_nCurrentView, placement);
+}
+
+void CMainFrame::changeEvent(QEvent* event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() != QEvent::WindowStateChange || !m_bStarted)
+        return;
+    // Before the icon or the whole screen takes its place, the window's own place is kept.
+    const Qt::WindowStates before = static_cast<QWindowStateChangeEvent*>(event)->oldState();
+    const bool isNew = (isMinimized() && !before.testFlag(Qt::WindowMinimized)) ||
+                       (isMaximized() && !before.testFlag(Qt::WindowMaximized));
+    if (isNew)
+        SavePlacementAs(before);
+}
+
+} // namespace skeldon

@@ -1,0 +1,233 @@
+#include "dataview/MeasuredList.h"
+
+#include "app/PumpMessages.h"
+#include "app/SkeldonApp.h"
+#include "app/WaitCursor.h"
+#include "dataview/MeasuredListModel.h"
+#include "resources/StringTable.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QPainter>
+
+#include <algorithm>
+#include <limits>
+
+namespace skeldon {
+
+namespace {
+
+constexpr int FontHeight = 12;
+constexpr int RowHeight = FontHeight + 4;
+constexpr int PrintWidthInFontHeights = 53;
+constexpr int HeaderRows = 3;
+
+constexpr ColourRef FlaggedBack = 0xA0A0B0;
+constexpr ColourRef SelectedBack = 0x800000;
+constexpr ColourRef NumberGrid = 0x808080;
+constexpr ColourRef Grid = 0xC0C0C0;
+
+QString WidthKey(int column)
+{
+    return QStringLiteral("ClmnWidth%1").arg(column);
+}
+
+} // namespace
+
+CMeasuredList::CMeasuredList(QWidget* parent)
+    : QTableView(parent)
+    , m_model(new CMeasuredListModel(this))
+{
+    QFont summary = font();
+    summary.setPixelSize(FontHeight);
+    setFont(summary);
+    setModel(m_model);
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(ExtendedSelection);
+    setEditTriggers(NoEditTriggers);
+    setContextMenuPolicy(Qt::NoContextMenu);
+    setVerticalScrollMode(ScrollPerPixel);
+    setHorizontalScrollMode(ScrollPerPixel);
+    setShowGrid(false);
+    setWordWrap(false);
+    setCornerButtonEnabled(false);
+    setTabKeyNavigation(false);
+    verticalHeader()->hide();
+    verticalHeader()->setMinimumSectionSize(RowHeight);
+    verticalHeader()->setDefaultSectionSize(RowHeight);
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    horizontalHeader()->setSectionsClickable(false);
+    horizontalHeader()->setHighlightSections(false);
+    // A million cells must not be asked for their texts to find the width of one.
+    horizontalHeader()->setResizeContentsPrecision(0);
+}
+
+void CMeasuredList::Setup(const CMeasureData& measured)
+{
+    m_pData = &measured;
+    ReadColumnWidths();
+    m_bCreated = true;
+}
+
+void CMeasuredList::ReadColumnWidths()
+{
+    for (int i = 0; i < ListColumnCount; ++i) {
+        const auto column = static_cast<ListColumn>(i);
+        const int usual = DefaultColumnWidth(column);
+        const int stored = App().m_ctrlAtStart
+                               ? usual
+                               : App().Settings().GetInt(SystemSection, WidthKey(i), usual);
+        setColumnWidth(i, UsableColumnWidth(column, stored));
+    }
+}
+
+void CMeasuredList::SaveColumnWidths()
+{
+    if (!m_bCreated)
+        return;
+    for (int i = 0; i < ListColumnCount; ++i)
+        App().Settings().WriteInt(SystemSection, WidthKey(i), columnWidth(i));
+}
+
+ListPrintMetrics CMeasuredList::GetPrintMetrics() const
+{
+    return {PrintWidthInFontHeights * FontHeight, RowHeight, HeaderRows * RowHeight};
+}
+
+int CMeasuredList::CountRows() const
+{
+    const auto isShown = [](const CMeasureRecord& record) {
+        return !record.HasFlag(RecordFlag::Deleted);
+    };
+    const auto count = std::ranges::count_if(m_pData->Records(), isShown);
+    return static_cast<int>(
+        std::min<std::ptrdiff_t>(count, std::numeric_limits<int>::max() / RowHeight));
+}
+
+void CMeasuredList::Rebuild()
+{
+    m_bFilling = true;
+    SetStatusText(Text(StringId::MakingLists));
+    m_text = CListText(App().GetDispUnit());
+    m_model->SetRowCount(m_pData != nullptr ? CountRows() : 0);
+    scrollToTop();
+    PumpMessages();
+    SetCurrentRow(-1);
+    ResetStatus();
+    m_bFilling = false;
+}
+
+void CMeasuredList::OnUnitChanged()
+{
+    const CWaitCursor wait;
+    m_text = CListText(App().GetDispUnit());
+    viewport()->update();
+}
+
+void CMeasuredList::SetCurrentRow(int row)
+{
+    m_nCurrentRow = row;
+    emit MeasureGraph(MeasureGraphCode::CurrentLine, row);
+}
+
+void CMeasuredList::OnMeasureGraph(MeasureGraphCode code, int argument)
+{
+    const QModelIndex index = m_model->index(argument, 0);
+    if (!index.isValid())
+        return;
+    if (code == MeasureGraphCode::CurrentLine)
+        selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+    if (code == MeasureGraphCode::CurrentLine || code == MeasureGraphCode::Marks ||
+        code == MeasureGraphCode::MarksToo) {
+        update(index);
+        scrollTo(index);
+    }
+}
+
+void CMeasuredList::currentChanged(const QModelIndex& current, const QModelIndex& previous)
+{
+    QTableView::currentChanged(current, previous);
+    viewport()->update(); // the lines round the row with the focus span all its cells
+    if (current.row() == previous.row())
+        return;
+    if (previous.isValid())
+        SetCurrentRow(-1);
+    if (current.isValid())
+        SetCurrentRow(current.row());
+}
+
+void CMeasuredList::keyPressEvent(QKeyEvent* event)
+{
+    // Cells hold no text that could be copied: what is on the clipboard stays there.
+    if (event->matches(QKeySequence::Copy)) {
+        event->ignore();
+        return;
+    }
+    QTableView::keyPressEvent(event);
+}
+
+void CMeasuredList::paintEvent(QPaintEvent* event)
+{
+    QPainter painter(viewport());
+    painter.fillRect(event->rect(), Qt::white);
+    if (m_pData == nullptr || m_pData->IsEmpty() || m_model->rowCount() == 0)
+        return;
+    painter.setFont(font());
+    const int top = rowAt(event->rect().top());
+    const int bottom = rowAt(event->rect().bottom());
+    const int last = bottom >= 0 ? bottom : m_model->rowCount() - 1;
+    for (int row = std::max(top, 0); row <= last; ++row)
+        PaintRow(painter, row, {0, rowViewportPosition(row), viewport()->width(), RowHeight});
+}
+
+void CMeasuredList::PaintRow(QPainter& painter, int row, const QRect& rect)
+{
+    const auto record = static_cast<std::size_t>(row);
+    if (record >= m_pData->GetSize())
+        return;
+    const bool isSelected = selectionModel()->isRowSelected(row);
+    for (int i = 0; i < ListColumnCount; ++i) {
+        const QRect cell(columnViewportPosition(i), rect.top(), columnWidth(i), rect.height());
+        PaintCell(painter, cell, record, static_cast<ListColumn>(i), isSelected);
+    }
+    if (currentIndex().row() == row) {
+        const int last = ListColumnCount - 1;
+        const int left = columnViewportPosition(0);
+        const int right = columnViewportPosition(last) + columnWidth(last);
+        PaintFocus(painter, {left, rect.top(), right - left, rect.height()});
+    }
+}
+
+void CMeasuredList::PaintCell(QPainter& painter, const QRect& rect, std::size_t record,
+                              ListColumn column, bool isSelected)
+{
+    constexpr int TextInset = 2;
+    constexpr std::uint16_t Flagged = RecordFlag::Abnormal | RecordFlag::Deleted;
+    const bool isNumber = column == ListColumn::Number;
+    const bool isDark = isSelected && !isNumber;
+    QColor back = isDark ? ToColour(SelectedBack) : QColor(Qt::white);
+    if (isNumber)
+        back = ToColour(m_pData->Records()[record].HasFlag(Flagged) ? FlaggedBack
+                                                                    : App().m_viewBaseColour);
+    painter.fillRect(rect, back);
+    const QColor grid = ToColour(isNumber ? NumberGrid : Grid);
+    painter.fillRect(rect.left(), rect.bottom() - 1, rect.width(), 1, grid);
+    painter.fillRect(rect.right() - 1, rect.top(), 1, rect.height(), grid);
+    painter.setPen(isDark ? Qt::white : Qt::black);
+    painter.drawText(rect.adjusted(TextInset, 0, 0, 0),
+                     Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine,
+                     m_text.CellText(*m_pData, record, column));
+}
+
+void CMeasuredList::PaintFocus(QPainter& painter, const QRect& row)
+{
+    // Inverted lines on three sides, whatever lies under them.
+    const int width = row.width();
+    painter.setCompositionMode(QPainter::CompositionMode_Difference);
+    painter.fillRect(row.left(), row.top(), width - 2, 1, Qt::white);
+    painter.fillRect(row.left(), row.top() + row.height() - 3, width - 2, 1, Qt::white);
+    painter.fillRect(row.left() + width - 3, row.top() + 1, 1, row.height() - 4, Qt::white);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+}
+
+} // namespace skeldon

@@ -1,0 +1,46 @@
+// The window.
+#include "app/DesktopPrompts.h"
+#include "app/SkeldonApp.h"
+#include "base/Version.h"
+#include "dataview/MainFrame.h"
+#include "recorder/RecorderPort.h"
+#include "resources/StringTable.h"
+#include "resources/Translation.h"
+
+#include <QApplication>
+#include <QLocale>
+
+#include <memory>
+
+using namespace skeldon;
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("SKELDON Light"));
+    QApplication::setApplicationVersion(QString::fromLatin1(ProgramVersion));
+    QApplication::setDesktopFileName(QStringLiteral("skeldon-light"));
+
+    CSystemClock clock;
+    std::unique_ptr<CMainFrame> frame;
+    AppServices services;
+    services.settings = std::make_unique<CSettings>();
+    services.prompts = std::make_unique<CDesktopPrompts>();
+    services.finder = MakeCableFinder();
+    services.opener = SystemPortOpener();
+    services.clock = &clock;
+    services.language = QLocale::languageToString(QLocale::system().language());
+    services.makeFrame = [&frame] {
+        InstallTranslation(App().IsJapanese());
+        QApplication::setApplicationDisplayName(Text(StringId::AppName));
+        frame = std::make_unique<CMainFrame>();
+        return frame.get();
+    };
+    CSkeldonApp skeldon(std::move(services));
+    if (!skeldon.InitInstance(QApplication::arguments().mid(1)))
+        return 0;
+    const int status = QApplication::exec();
+    skeldon.ExitInstance();
+    frame.reset();
+    return status;
+}

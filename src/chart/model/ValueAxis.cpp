@@ -1,0 +1,87 @@
+#include "chart/model/ValueAxis.h"
+
+#include "base/NumberFormat.h"
+
+#include <cmath>
+
+namespace skeldon {
+
+namespace {
+
+// The axis ends at 50 both ways. Upward the rounding of the sum of the steps is allowed for,
+// downward it is not.
+constexpr double HighestTick = 50.0001;
+constexpr double LowestTick = -50.0;
+
+// Not the standard gravity: the recorders' manuals count with these.
+constexpr double MetresPerSecond2PerG = 9.8;
+constexpr double GalPerG = 980.0;
+
+constexpr double DegreesPerUnit = 2.0;
+constexpr double HighestDegrees = 50.001;
+constexpr double PercentPerUnit = 4.0;
+constexpr double HighestPercent = 100.001;
+
+std::string Fixed(double value, int decimals)
+{
+    char text[FixedTextLimit];
+    return {text, WriteFixedExact(text, value, decimals)};
+}
+
+} // namespace
+
+std::string AccelerationLabel(double value, DisplayUnit unit)
+{
+    switch (unit) {
+    case DisplayUnit::G:
+        break;
+    case DisplayUnit::MetresPerSecond2:
+        return Fixed(value * MetresPerSecond2PerG, 1);
+    case DisplayUnit::Gal:
+        return Fixed(value * GalPerG, 0);
+    }
+    return Fixed(value, 1);
+}
+
+std::string TemperatureLabel(double value)
+{
+    const double degrees = DegreesPerUnit * value;
+    return std::fabs(degrees) <= HighestDegrees ? Fixed(degrees, 1) : std::string();
+}
+
+std::string HumidityLabel(double value)
+{
+    const double percent = PercentPerUnit * value;
+    if (!(percent >= 0.0 && percent <= HighestPercent))
+        return {};
+    const std::string text = Fixed(percent, 1);
+    return text.back() == '0' ? text.substr(0, text.size() - 2) : std::string();
+}
+
+std::vector<ValueTick> ValueTicks(const CValueScale& scale, int clientHeight, DisplayUnit unit)
+{
+    const double interval = CValueScale::GridInterval(scale.GetStep());
+    const int top = scale.m_scrollY;
+    const int bottom = scale.m_scrollY + clientHeight;
+    std::vector<ValueTick> ticks;
+    const auto draw = [&](double value, int row) {
+        ticks.push_back({value, row, AccelerationLabel(value, unit), TemperatureLabel(value),
+                         HumidityLabel(value)});
+    };
+    for (double value = 0.0; value <= HighestTick; value += interval) {
+        const int row = scale.Row(value);
+        if (row < top)
+            break;
+        if (row < bottom)
+            draw(value, row);
+    }
+    for (double value = -interval; value >= LowestTick; value -= interval) {
+        const int row = scale.Row(value);
+        if (row > bottom)
+            break;
+        draw(value, row);
+    }
+    return ticks;
+}
+
+} // namespace skeldon

@@ -219,7 +219,6 @@ QPoint PictureHotSpot(PictureId id)
     case PictureId::CursorAreaOff:
     case PictureId::CursorAreaOn:
     case PictureId::CursorAreaDrag:
-    case PictureId::CursorSplitter:
         return {15, 15};
     default: {
         const QSize size = PictureSize(id);

@@ -25,8 +25,8 @@ struct ButtonForm
     ColourRef colour = 0;            ///< of a series: the colour without a remembered one
 
     [[nodiscard]] bool IsSeries() const { return series != 0; }
-    /// Where the language does not call for words, the picture says it all.
-    [[nodiscard]] bool IsPictureOnly() const { return caption == name; }
+    /// An axis: its picture is its letter.
+    [[nodiscard]] bool IsAxis() const { return IsSeries() && caption == name; }
 };
 
 /// All buttons in the order of `DataViewButton`.

@@ -19,7 +19,7 @@ namespace skeldon {
 namespace {
 
 constexpr ColourRef Grey = 0x808080;
-constexpr int SummaryFontHeight = 12;
+constexpr int SummaryLetterSize = 11;
 constexpr const char* ListBorderKey = "ListBorder";
 
 QString KeyOf(const char* key)
@@ -46,11 +46,11 @@ void CDisplayView::SetUpButtons()
     for (const ButtonForm& form : ButtonForms()) {
         CSkinButton& button = Button(form.button);
         if (form.IsSeries())
-            button.SetUpSwatch(form.picture, form.IsPictureOnly() && !isJapanese);
+            button.SetUpSwatch(form.picture, form.IsAxis() && !isJapanese);
         else
             button.SetUpPicture(form.picture);
         button.SetTint(TintOf(App().m_viewBaseColour));
-        if (!form.IsPictureOnly() || isJapanese)
+        if (!form.IsAxis())
             button.SetCaption(Text(form.caption));
         if (!form.IsSeries())
             continue;
@@ -168,7 +168,7 @@ void CDisplayView::PaintStrip(QPainter& painter) const
     const QRect strip = Layout().Strip();
     painter.fillRect(strip, ToColour(App().m_viewBaseColour));
     QFont summary = font();
-    summary.setPixelSize(SummaryFontHeight);
+    summary.setPixelSize(SummaryLetterSize);
     painter.setFont(summary);
     painter.setPen(Qt::black);
     painter.drawText(strip, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,

@@ -17,7 +17,9 @@ namespace skeldon {
 
 namespace {
 
+/// Height of a line of text; its letters are one smaller.
 constexpr int FontHeight = 12;
+constexpr int LetterSize = 11;
 constexpr int RowHeight = FontHeight + 4;
 constexpr int PrintWidthInFontHeights = 53;
 constexpr int HeaderRows = 3;
@@ -39,7 +41,7 @@ CMeasuredList::CMeasuredList(QWidget* parent)
     , m_model(new CMeasuredListModel(this))
 {
     QFont summary = font();
-    summary.setPixelSize(FontHeight);
+    summary.setPixelSize(LetterSize);
     setFont(summary);
     setModel(m_model);
     setSelectionBehavior(SelectRows);
@@ -58,6 +60,7 @@ CMeasuredList::CMeasuredList(QWidget* parent)
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     horizontalHeader()->setSectionsClickable(false);
     horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setTextElideMode(Qt::ElideRight);
     // A million cells must not be asked for their texts to find the width of one.
     horizontalHeader()->setResizeContentsPrecision(0);
 }

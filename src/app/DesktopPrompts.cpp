@@ -1,5 +1,7 @@
 #include "app/DesktopPrompts.h"
 
+#include "resources/StringTable.h"
+
 #include <QApplication>
 #include <QDesktopServices>
 #include <QFileDialog>
@@ -54,7 +56,7 @@ std::optional<QString> RunFileDialog(QFileDialog& dialog, const FileQuestion& qu
 Answer CDesktopPrompts::ShowBox(QWidget* parent, BoxKind kind, const QString& text)
 {
     const BoxForm form = FormOf(kind);
-    QMessageBox box(form.icon, QApplication::applicationDisplayName(), text, form.buttons, parent);
+    QMessageBox box(form.icon, Text(StringId::AppName), text, form.buttons, parent);
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(form.preselected);
     box.setEscapeButton(form.escape);

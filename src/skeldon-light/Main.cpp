@@ -4,7 +4,6 @@
 #include "base/Version.h"
 #include "dataview/MainFrame.h"
 #include "recorder/RecorderPort.h"
-#include "resources/StringTable.h"
 #include "resources/Translation.h"
 
 #include <QApplication>
@@ -32,7 +31,6 @@ int main(int argc, char** argv)
     services.language = QLocale::languageToString(QLocale::system().language());
     services.makeFrame = [&frame] {
         InstallTranslation(App().IsJapanese());
-        QApplication::setApplicationDisplayName(Text(StringId::AppName));
         frame = std::make_unique<CMainFrame>();
         return frame.get();
     };

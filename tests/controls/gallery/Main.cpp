@@ -1,11 +1,17 @@
 // Draws all controls in all states into pictures: controls_gallery FOLDER [ja]
 
+#include "controls/AboutBox.h"
+#include "controls/ColourSample.h"
 #include "controls/ConnectionIcon.h"
+#include "controls/FloatComboEdit.h"
+#include "controls/IntComboEdit.h"
 #include "controls/IntervalPanel.h"
+#include "controls/NameEdit.h"
 #include "controls/ProgressWindow.h"
 #include "controls/RecorderPicture.h"
 #include "controls/SamplingPanel.h"
 #include "controls/SkinButton.h"
+#include "controls/SpinButton.h"
 #include "resources/StringTable.h"
 #include "resources/Translation.h"
 #include "support/window/TestApp.h"
@@ -178,6 +184,55 @@ void ShowStrips(const QString& path)
     all.save(path);
 }
 
+/// Rows of the small buttons: at rest, pushed, disabled, with the focus; colour samples; edits.
+void ShowSmall(const QString& path, ColourRef face)
+{
+    CBoard board(face, {420, 120});
+    QWidget* focused = nullptr;
+    for (int state = 0; state < 4; ++state) {
+        for (int kind = 0; kind < 3; ++kind) {
+            auto* button = new CSpinButton(static_cast<SpinKind>(kind), &board);
+            button->move(8 + kind * 20, 8 + state * 16);
+            button->setDown(state == 1);
+            button->setEnabled(state != 2);
+            if (state == 3 && kind == 0)
+                focused = button;
+        }
+    }
+    const ColourRef colours[] = {0xC50CC5, 0x800000, 0x008000};
+    for (int i = 0; i < 3; ++i) {
+        auto* sample = new CColourSample(&board);
+        sample->SetColour(colours[i]);
+        sample->setGeometry(80, 8 + i * 26, 60, 20);
+        sample->setEnabled(i != 2);
+    }
+    auto* number = new CIntEdit(&board);
+    number->SetRange(1, 99);
+    number->SetValue(42);
+    number->setGeometry(160, 8, 80, 22);
+    auto* combo = new CFloatComboEdit(&board);
+    combo->addItems({QStringLiteral("1.0"), QStringLiteral("2.5")});
+    combo->SetRange(0, 50, 1);
+    combo->SetValue(12.5);
+    combo->setGeometry(160, 36, 80, 24);
+    auto* name = new CNameEdit(&board);
+    name->SetName(QStringLiteral("Transport 1"));
+    name->setGeometry(160, 66, 212, 22);
+    board.show();
+    board.activateWindow();
+    focused->setFocus();
+    board.Save(path);
+}
+
+void ShowAbout(const QString& path)
+{
+    CAboutBox box(nullptr, [](int) { return 0; });
+    box.show();
+    while (box.Fade().Present() != CAboutFade::Phase::Shown)
+        qApp->processEvents();
+    box.grab().save(path);
+}
+
 } // namespace
 
 } // namespace skeldon
@@ -198,6 +253,8 @@ int main(int argc, char** argv)
     ShowPanels(folder + QStringLiteral("/panels-light.png"), 0xD8E9EC);
     ShowPanels(folder + QStringLiteral("/panels-dark.png"), 0xC8D0D4);
     ShowPictures(folder + QStringLiteral("/pictures.png"), 0xD8E9EC);
+    ShowSmall(folder + QStringLiteral("/small.png"), 0xD8E9EC);
+    ShowAbout(folder + QStringLiteral("/about.png"));
     ShowStrips(folder + QStringLiteral("/strips.png"));
     return 0;
 }

@@ -1,0 +1,51 @@
+#include "controls/ColourSample.h"
+
+#include "resources/StringTable.h"
+
+#include <QPainter>
+
+#include <algorithm>
+
+namespace skeldon {
+
+CColourSample::CColourSample(QWidget* parent)
+    : QWidget(parent)
+{
+    setAccessibleName(Text(StringId::NameColourSample));
+}
+
+void CColourSample::SetColour(ColourRef colour)
+{
+    m_colour = colour;
+    update();
+    AnnounceValue(this);
+}
+
+void CColourSample::SetLineHeight(int height)
+{
+    m_lineHeight = std::max(height, 1);
+    update();
+}
+
+QAccessible::Role CColourSample::AccessibleRole() const
+{
+    return QAccessible::Graphic;
+}
+
+QString CColourSample::AccessibleValue() const
+{
+    return ToColour(m_colour).name(QColor::HexRgb).toUpper();
+}
+
+void CColourSample::paintEvent(QPaintEvent* /*event*/)
+{
+    if (!isEnabled())
+        return;
+    constexpr int Inset = 4;
+    const QRect bar(Inset, (height() - m_lineHeight) / 2, width() - 2 * Inset, m_lineHeight);
+    QPainter painter(this);
+    painter.fillRect(rect(), Qt::white);
+    painter.fillRect(bar, ToColour(m_colour));
+}
+
+} // namespace skeldon

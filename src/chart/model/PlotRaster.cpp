@@ -1,0 +1,142 @@
+#include "chart/model/PlotRaster.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <utility>
+
+namespace skeldon {
+
+namespace {
+
+/// `a` / `b` rounded down, `b` above 0.
+std::int64_t FloorDivide(std::int64_t a, std::int64_t b)
+{
+    return a / b - (a % b < 0 ? 1 : 0);
+}
+
+/// What a wide line adds before and behind its middle.
+int Before(int width)
+{
+    return (width - 1) / 2;
+}
+
+int Behind(int width)
+{
+    return width / 2;
+}
+
+} // namespace
+
+void CPlotRaster::Reset(const ChartRect& area, std::uint32_t background)
+{
+    m_area = area;
+    m_area.right = std::max(area.right, area.left);
+    m_area.bottom = std::max(area.bottom, area.top);
+    const auto columns = static_cast<std::size_t>(m_area.right - m_area.left);
+    m_pixels.assign(columns * static_cast<std::size_t>(Height()), background);
+}
+
+void CPlotRaster::Fill(const ChartRect& rect, std::uint32_t colour)
+{
+    Block(rect.left, std::int64_t{rect.right} - 1, rect.top, std::int64_t{rect.bottom} - 1, colour);
+}
+
+void CPlotRaster::Block(std::int64_t left, std::int64_t right, std::int64_t top,
+                        std::int64_t bottom, std::uint32_t colour)
+{
+    const std::int64_t first = std::max<std::int64_t>(left, m_area.left);
+    const std::int64_t last = std::min<std::int64_t>(right, std::int64_t{m_area.right} - 1);
+    const std::int64_t begin = std::max<std::int64_t>(top, m_area.top);
+    const std::int64_t end = std::min<std::int64_t>(bottom + 1, m_area.bottom);
+    if (begin >= end)
+        return;
+    for (std::int64_t x = first; x <= last; ++x) {
+        const auto column = static_cast<std::size_t>(x - m_area.left);
+        std::uint32_t* const pixels =
+            m_pixels.data() + column * static_cast<std::size_t>(Height()) - m_area.top;
+        std::fill(pixels + begin, pixels + end, colour);
+    }
+}
+
+void CPlotRaster::Line(int x1, int y1, int x2, int y2, int width, std::uint32_t colour)
+{
+    const std::int64_t dx = std::abs(std::int64_t{x2} - x1);
+    const std::int64_t dy = std::abs(std::int64_t{y2} - y1);
+    if (dx == 0 && dy == 0)
+        Block(x1 - Before(width), x1 + Behind(width), y1 - Before(width), y1 + Behind(width),
+              colour);
+    else if (dy >= dx)
+        Steep(x1, y1, x2, y2, width, colour);
+    else
+        Flat(x1, y1, x2, y2, width, colour);
+}
+
+/// A line with at least as many rows as columns: its row y lies in the column nearest to it. Goes
+/// through the columns, each of which holds a piece of the line.
+void CPlotRaster::Steep(std::int64_t x1, std::int64_t y1, std::int64_t x2, std::int64_t y2,
+                        int width, std::uint32_t colour)
+{
+    if (x1 > x2 || (x1 == x2 && y1 > y2)) {
+        std::swap(x1, x2);
+        std::swap(y1, y2);
+    }
+    const std::int64_t dx = x2 - x1;
+    const std::int64_t rows = std::abs(y2 - y1);
+    const int direction = y2 >= y1 ? 1 : -1;
+    // Rows behind y1, in the line's direction, up to which column x goes.
+    const auto endOf = [&](std::int64_t x) {
+        if (dx == 0)
+            return rows;
+        return std::min(rows, FloorDivide((2 * (x - x1) + 1) * rows - 1, 2 * dx));
+    };
+    const std::int64_t first = std::max(x1, std::int64_t{m_area.left} - Behind(width));
+    const std::int64_t last = std::min(x2, std::int64_t{m_area.right} - 1 + Before(width));
+    for (std::int64_t x = first; x <= last; ++x) {
+        const std::int64_t begin = x == x1 ? 0 : endOf(x - 1) + 1;
+        const std::int64_t end = endOf(x);
+        const std::int64_t a = y1 + direction * begin;
+        const std::int64_t b = y1 + direction * end;
+        if (begin <= end)
+            Block(x - Before(width), x + Behind(width), std::min(a, b), std::max(a, b), colour);
+    }
+}
+
+/// A line with more columns than rows: one pixel, and its width, in each column.
+void CPlotRaster::Flat(std::int64_t x1, std::int64_t y1, std::int64_t x2, std::int64_t y2,
+                       int width, std::uint32_t colour)
+{
+    if (x1 > x2) {
+        std::swap(x1, x2);
+        std::swap(y1, y2);
+    }
+    const std::int64_t dx = x2 - x1;
+    const std::int64_t dy = y2 - y1;
+    const std::int64_t first = std::max(x1, std::int64_t{m_area.left});
+    const std::int64_t last = std::min(x2, std::int64_t{m_area.right} - 1);
+    for (std::int64_t x = first; x <= last; ++x) {
+        const std::int64_t y = y1 + FloorDivide(2 * (x - x1) * dy + dx, 2 * dx);
+        Block(x, x, y - Before(width), y + Behind(width), colour);
+    }
+}
+
+void CPlotRaster::CopyTo(std::uint32_t* image, std::size_t stride) const
+{
+    // In squares that fit the nearest cache on both sides.
+    constexpr std::size_t Square = 32;
+    const auto columns = static_cast<std::size_t>(m_area.right - m_area.left);
+    const auto rows = static_cast<std::size_t>(Height());
+    std::uint32_t* const corner = image + static_cast<std::size_t>(m_area.top) * stride +
+                                  static_cast<std::size_t>(m_area.left);
+    for (std::size_t y = 0; y < rows; y += Square) {
+        const std::size_t lastRow = std::min(y + Square, rows);
+        for (std::size_t x = 0; x < columns; x += Square) {
+            const std::size_t lastColumn = std::min(x + Square, columns);
+            for (std::size_t row = y; row < lastRow; ++row) {
+                for (std::size_t column = x; column < lastColumn; ++column)
+                    corner[row * stride + column] = m_pixels[column * rows + row];
+            }
+        }
+    }
+}
+
+} // namespace skeldon

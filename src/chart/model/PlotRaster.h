@@ -1,0 +1,44 @@
+#pragma once
+
+#include "chart/model/ChartTypes.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace skeldon {
+
+/// The pixels of the plot, held column by column: nearly all that the chart draws is vertical, and
+/// so lies in one piece. Colours are 0xAARRGGBB as images on the screen hold them. What lies
+/// outside the area is cut off.
+class CPlotRaster
+{
+public:
+    /// Makes the raster one of `area`, in device pixels, all in one colour.
+    void Reset(const ChartRect& area, std::uint32_t background);
+
+    void Fill(const ChartRect& rect, std::uint32_t colour);
+    /// A line with both its end points. A wide one grows across its direction, first to the left or
+    /// up; a point becomes a square. Ends may lie anywhere in 32 bits.
+    void Line(int x1, int y1, int x2, int y2, int width, std::uint32_t colour);
+    /// Copies the area into an image whose pixel (0, 0) is that of the plot's coordinates and which
+    /// holds the whole area. `stride` is the number of pixels from row to row.
+    void CopyTo(std::uint32_t* image, std::size_t stride) const;
+
+    [[nodiscard]] const ChartRect& Area() const { return m_area; }
+
+private:
+    [[nodiscard]] int Height() const { return m_area.bottom - m_area.top; }
+    /// Rows from `top` to `bottom`, both included, of columns from `left` to `right`, likewise.
+    void Block(std::int64_t left, std::int64_t right, std::int64_t top, std::int64_t bottom,
+               std::uint32_t colour);
+    void Steep(std::int64_t x1, std::int64_t y1, std::int64_t x2, std::int64_t y2, int width,
+               std::uint32_t colour);
+    void Flat(std::int64_t x1, std::int64_t y1, std::int64_t x2, std::int64_t y2, int width,
+              std::uint32_t colour);
+
+    ChartRect m_area;
+    std::vector<std::uint32_t> m_pixels;
+};
+
+} // namespace skeldon

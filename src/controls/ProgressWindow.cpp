@@ -17,10 +17,24 @@ namespace {
 
 /// From the strip's appearing to the start of the work.
 constexpr int StartDelayMs = 100;
-/// Columns of the picture: one of the empty middle, one of the filled.
+/// Columns of the picture where the empty middle, the right end and the filled middle begin.
 constexpr int EmptyColumn = 17;
 constexpr int RightEndColumn = 18;
 constexpr int FilledColumn = 35;
+
+/// The parts of the picture.
+constexpr QRect LeftEnd(0, 0, ProgressGauge::End, ProgressGauge::Height);
+constexpr QRect EmptyMiddle(EmptyColumn, 0, 1, ProgressGauge::Height);
+constexpr QRect RightEnd(RightEndColumn, 0, ProgressGauge::End, ProgressGauge::Height);
+constexpr QRect FilledMiddle(FilledColumn, 0, 1, ProgressGauge::Height);
+
+/// What lies between the ends of a strip, in device pixels.
+QRect MiddlePixels(QSize strip, double ratio)
+{
+    return PicturePixels(QRect(QPoint(), strip), ratio)
+        .adjusted(PicturePixels(LeftEnd, ratio).width(), 0, -PicturePixels(RightEnd, ratio).width(),
+                  0);
+}
 
 } // namespace
 
@@ -140,8 +154,7 @@ void CProgressWindow::changeEvent(QEvent* event)
 CProgressWindow::Face CProgressWindow::PresentFace() const
 {
     const double ratio = devicePixelRatioF();
-    const QRect middle(ProgressGauge::End, 0, width() - 2 * ProgressGauge::End, 1);
-    const int filled = m_gauge.FilledColumns(PicturePixels(middle, ratio).width());
+    const int filled = m_gauge.FilledColumns(MiddlePixels(size(), ratio).width());
     return {filled, m_text, m_textColor, size(), ratio, font()};
 }
 
@@ -165,20 +178,15 @@ void CProgressWindow::Compose(const Face& face)
     const QImage picture = Picture(PictureId::Progress, face.ratio);
     if (picture.isNull())
         return; // the strip stays as it was
-    constexpr int End = ProgressGauge::End;
-    constexpr int Height = ProgressGauge::Height;
-    const int width = face.size.width();
     m_picture = CSurface(face.size, face.ratio);
-    m_picture.DrawPart(picture, {0, 0, End, Height}, {0, 0, End, Height});
-    m_picture.DrawPart(picture, {EmptyColumn, 0, 1, Height}, {End, 0, width - 2 * End, Height});
-    m_picture.DrawPart(picture, {RightEndColumn, 0, End, Height}, {width - End, 0, End, Height});
+    m_picture.DrawStretched(picture, LeftEnd, EmptyMiddle, RightEnd, QRect(QPoint(), face.size));
     if (face.filled > 0) {
         // To the device pixel, so that the gauge moves as evenly as the screen allows.
-        const QRect column = PicturePixels({FilledColumn, 0, 1, Height}, face.ratio);
-        const int left = PicturePixels({End, 0, 1, 1}, face.ratio).left();
+        QRect filled = MiddlePixels(face.size, face.ratio);
+        filled.setWidth(face.filled);
         QPainter painter(&m_picture.Image());
         painter.scale(1 / face.ratio, 1 / face.ratio);
-        painter.drawImage(QRect(left, 0, face.filled, column.height()), picture, column);
+        painter.drawImage(filled, picture, PicturePixels(FilledMiddle, face.ratio));
     }
     DrawText(face);
 }

@@ -191,11 +191,9 @@ void CSkinButton::BuildStrip(double ratio)
         const auto index = static_cast<std::size_t>(i);
         const int y = i * ButtonFaceHeight;
         CSurface face(size(), ratio);
-        face.DrawPart(faces, {0, y, end, ButtonFaceHeight}, {0, 0, end, height()});
-        face.DrawPart(faces, {end, y, whole - 2 * end, ButtonFaceHeight},
-                      {end, 0, width() - 2 * end, height()});
-        face.DrawPart(faces, {whole - end, y, end, ButtonFaceHeight},
-                      {width() - end, 0, end, height()});
+        face.DrawStretched(faces, {0, y, end, ButtonFaceHeight},
+                           {end, y, whole - 2 * end, ButtonFaceHeight},
+                           {whole - end, y, end, ButtonFaceHeight}, rect());
         face.LayTint(m_tint);
         const QColor middle = face.ColourAtMiddle(rect());
         const bool isSeen = middle.isValid() && middle.alpha() != 0;

@@ -28,6 +28,26 @@ void CSurface::DrawPart(const QImage& picture, const QRect& part, const QRect& t
     painter.drawImage(PicturePixels(target, m_ratio), picture, PicturePixels(part, m_ratio));
 }
 
+void CSurface::DrawStretched(const QImage& picture, const QRect& left, const QRect& middle,
+                             const QRect& right, const QRect& target)
+{
+    if (picture.isNull() || m_image.isNull())
+        return;
+    const QRect area = PicturePixels(target, m_ratio);
+    const QRect leftPart = PicturePixels(left, m_ratio);
+    const QRect rightPart = PicturePixels(right, m_ratio);
+    const int rightX = area.right() + 1 - rightPart.width();
+    const int middleX = area.left() + leftPart.width();
+    QPainter painter(&m_image);
+    painter.scale(1 / m_ratio, 1 / m_ratio);
+    painter.drawImage(QRect(area.left(), area.top(), leftPart.width(), area.height()), picture,
+                      leftPart);
+    painter.drawImage(QRect(middleX, area.top(), rightX - middleX, area.height()), picture,
+                      PicturePixels(middle, m_ratio));
+    painter.drawImage(QRect(rightX, area.top(), rightPart.width(), area.height()), picture,
+                      rightPart);
+}
+
 void CSurface::LayTint(const Tint& tint)
 {
     if (tint.alpha == 0 || m_image.isNull())

@@ -26,6 +26,10 @@ public:
     /// Copies `part` of a picture to `target`, stretched where the sizes differ. Nothing where the
     /// picture could not be loaded.
     void DrawPart(const QImage& picture, const QRect& part, const QRect& target);
+    /// Fills `target` with a picture that keeps its ends: `left` and `right` go to the ends of the
+    /// target pixel by pixel, `middle` is stretched between them.
+    void DrawStretched(const QImage& picture, const QRect& left, const QRect& middle,
+                       const QRect& right, const QRect& target);
     /// Lays a tint over all that has been drawn; what is transparent stays so.
     void LayTint(const Tint& tint);
     /// The colour in the middle of `part`.

@@ -8,7 +8,9 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
+#include <QScrollBar>
 
 #include <algorithm>
 #include <limits>
@@ -43,6 +45,12 @@ CMeasuredList::CMeasuredList(QWidget* parent)
     QFont summary = font();
     summary.setPixelSize(LetterSize);
     setFont(summary);
+    setAccessibleName(Text(StringId::NameMeasuredList));
+    m_model->SetTextSource([this](std::size_t row, ListColumn column) {
+        return m_pData != nullptr && row < m_pData->GetSize()
+                   ? m_text.CellText(*m_pData, row, column)
+                   : QString();
+    });
     setModel(m_model);
     setSelectionBehavior(SelectRows);
     setSelectionMode(ExtendedSelection);
@@ -142,9 +150,63 @@ void CMeasuredList::OnMeasureGraph(MeasureGraphCode code, int argument)
         selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
     if (code == MeasureGraphCode::CurrentLine || code == MeasureGraphCode::Marks ||
         code == MeasureGraphCode::MarksToo) {
-        update(index);
+        viewport()->update(0, rowViewportPosition(argument), viewport()->width(), RowHeight);
         scrollTo(index);
     }
+}
+
+void CMeasuredList::scrollTo(const QModelIndex& index, ScrollHint hint)
+{
+    const int sideways = horizontalScrollBar()->value();
+    QTableView::scrollTo(index, hint);
+    horizontalScrollBar()->setValue(sideways);
+}
+
+void CMeasuredList::StepSideways(QAbstractSlider::SliderAction step)
+{
+    horizontalScrollBar()->triggerAction(step);
+}
+
+QModelIndex CMeasuredList::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
+{
+    // The keys go from row to row, never from cell to cell.
+    switch (action) {
+    case MoveHome:
+        return m_model->index(0, 0);
+    case MoveEnd:
+        return m_model->index(m_model->rowCount() - 1, 0);
+    case MoveLeft:
+        StepSideways(QAbstractSlider::SliderSingleStepSub);
+        return currentIndex();
+    case MoveRight:
+        StepSideways(QAbstractSlider::SliderSingleStepAdd);
+        return currentIndex();
+    default:
+        return QTableView::moveCursor(action, modifiers);
+    }
+}
+
+void CMeasuredList::focusInEvent(QFocusEvent* event)
+{
+    if (currentIndex().isValid()) {
+        QTableView::focusInEvent(event);
+        return;
+    }
+    // No row becomes the current one just because the list is entered.
+    QAbstractScrollArea::focusInEvent(event);
+    viewport()->update();
+}
+
+void CMeasuredList::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::RightButton) {
+        QTableView::mousePressEvent(event);
+        return;
+    }
+    // The right button moves the focus alone: what is selected stays.
+    const QModelIndex index = indexAt(event->position().toPoint());
+    if (index.isValid())
+        selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
 }
 
 void CMeasuredList::currentChanged(const QModelIndex& current, const QModelIndex& previous)

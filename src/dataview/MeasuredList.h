@@ -48,6 +48,11 @@ public:
     [[nodiscard]] bool IsFilling() const { return m_bFilling; }
     [[nodiscard]] int CurrentRow() const { return m_nCurrentRow; }
 
+    /// Up or down only: a row is never brought into view sideways.
+    void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
+    /// Rows hold no text that typed letters could find.
+    void keyboardSearch(const QString& /*search*/) override {}
+
 signals:
     /// `code` is always `CurrentLine`.
     void MeasureGraph(skeldon::MeasureGraphCode code, int argument);
@@ -55,10 +60,15 @@ signals:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    [[nodiscard]] QModelIndex moveCursor(CursorAction action,
+                                         Qt::KeyboardModifiers modifiers) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 
 private:
     void ReadColumnWidths();
+    void StepSideways(QAbstractSlider::SliderAction step);
     [[nodiscard]] int CountRows() const;
     void PaintRow(QPainter& painter, int row, const QRect& rect);
     void PaintCell(QPainter& painter, const QRect& rect, std::size_t record, ListColumn column,

@@ -52,9 +52,11 @@ int CMeasuredListModel::columnCount(const QModelIndex& parent) const
     return parent.isValid() ? 0 : ListColumnCount;
 }
 
-QVariant CMeasuredListModel::data(const QModelIndex& /*index*/, int /*role*/) const
+QVariant CMeasuredListModel::data(const QModelIndex& index, int role) const
 {
-    return {};
+    if (role != Qt::AccessibleTextRole || !m_source || !index.isValid())
+        return {};
+    return m_source(static_cast<std::size_t>(index.row()), static_cast<ListColumn>(index.column()));
 }
 
 QVariant CMeasuredListModel::headerData(int section, Qt::Orientation orientation, int role) const

@@ -2,10 +2,16 @@
 
 #include <QAbstractTableModel>
 
+#include <cstddef>
+#include <functional>
+#include <utility>
+
 namespace skeldon {
 
+enum class ListColumn;
+
 /// The rows of the measured list: how many there are, and the titles of the columns. Rows hold no
-/// text: what a cell shows is made when it is painted.
+/// text: what a cell shows is made when it is painted, or when a screen reader asks for it.
 class CMeasuredListModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -13,6 +19,10 @@ class CMeasuredListModel : public QAbstractTableModel
 public:
     using QAbstractTableModel::QAbstractTableModel;
 
+    using TextSource = std::function<QString(std::size_t row, ListColumn column)>;
+
+    /// Where screen readers get the text of a cell from.
+    void SetTextSource(TextSource source) { m_source = std::move(source); }
     /// Drops all rows and gives `count` new ones.
     void SetRowCount(int count);
 
@@ -23,6 +33,7 @@ public:
                                       int role) const override;
 
 private:
+    TextSource m_source;
     int m_rows = 0;
 };
 

@@ -3,14 +3,40 @@
 #include "resources/StringTable.h"
 
 #include <QApplication>
+#include <QCursor>
 #include <QDesktopServices>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QUrl>
 
+#include <vector>
+
 namespace skeldon {
 
 namespace {
+
+/// The usual pointer for as long as the user is asked, whatever work waits for the answer.
+class CUsualCursor
+{
+public:
+    CUsualCursor()
+    {
+        while (const QCursor* const cursor = QGuiApplication::overrideCursor()) {
+            m_kept.push_back(*cursor);
+            QGuiApplication::restoreOverrideCursor();
+        }
+    }
+    CUsualCursor(const CUsualCursor&) = delete;
+    CUsualCursor& operator=(const CUsualCursor&) = delete;
+    ~CUsualCursor()
+    {
+        for (; !m_kept.empty(); m_kept.pop_back())
+            QGuiApplication::setOverrideCursor(m_kept.back());
+    }
+
+private:
+    std::vector<QCursor> m_kept;
+};
 
 struct BoxForm
 {
@@ -42,6 +68,7 @@ BoxForm FormOf(BoxKind kind)
 
 std::optional<QString> RunFileDialog(QFileDialog& dialog, const FileQuestion& question)
 {
+    const CUsualCursor usual;
     dialog.setDirectory(question.folder);
     dialog.setNameFilters(question.filters);
     if (!question.name.isEmpty())
@@ -55,6 +82,7 @@ std::optional<QString> RunFileDialog(QFileDialog& dialog, const FileQuestion& qu
 
 Answer CDesktopPrompts::ShowBox(QWidget* parent, BoxKind kind, const QString& text)
 {
+    const CUsualCursor usual;
     const BoxForm form = FormOf(kind);
     QMessageBox box(form.icon, Text(StringId::AppName), text, form.buttons, parent);
     box.setTextFormat(Qt::PlainText);

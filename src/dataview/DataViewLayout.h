@@ -44,7 +44,8 @@ public:
     [[nodiscard]] static QSize FormSize(bool isJapanese);
 
     [[nodiscard]] QRect Button(DataViewButton button) const;
-    /// A splitter within the limits of the window; the lower limit wins where both can not be held.
+    /// A splitter within the limits of the window; the limit from the bottom wins where both can
+    /// not be held.
     [[nodiscard]] int ClampListBorder(int border) const;
     [[nodiscard]] QRect Splitter(int listBorder) const;
     [[nodiscard]] QRect List(int listBorder) const;

@@ -44,8 +44,9 @@ CommandState CDisplayView::StateOf(CommandId command) const
     case CommandId::SaveAs:
     case CommandId::ExportCsv:
     case CommandId::Print:
-    case CommandId::CopyCsv:
         return {HasData()};
+    case CommandId::CopyCsv:
+        return {!m_data.IsEmpty()};
     case CommandId::GetData:
     case CommandId::OnlineRecording:
         return {CanGetData()};

@@ -147,11 +147,12 @@ void CDisplayView::ExportCsvFile()
                                             ReadCsvOptions(App().Settings()), LocalCsvNames());
     if (error)
         App().Prompts().ShowBox(this, BoxKind::Warning, WriteFailureText(target->chosen, error));
+    RefreshControls(); // what the pump let through saw the view busy
 }
 
 void CDisplayView::CopyCsv()
 {
-    if (!HasData())
+    if (m_data.IsEmpty())
         return;
     const CWaitCursor wait;
     const CsvOptions options = ReadCsvOptions(App().Settings());

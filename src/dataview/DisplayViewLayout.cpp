@@ -69,8 +69,9 @@ void CDisplayView::ReadGeneralSettings()
 
 void CDisplayView::ReadSettings()
 {
-    m_listBorder = App().Settings().GetInt(SystemSection, KeyOf(ListBorderKey),
-                                           CDataViewLayout::DefaultListBorder);
+    // Whatever the store holds, list, chart and splitter can be reached.
+    m_listBorder = Layout().ClampListBorder(App().Settings().GetInt(
+        SystemSection, KeyOf(ListBorderKey), CDataViewLayout::DefaultListBorder));
     m_list->Setup(m_data);
     m_chart->Attach(m_data);
     SetUpButtons();
@@ -104,7 +105,6 @@ void CDisplayView::resizeEvent(QResizeEvent* event)
         m_bLayoutDone = true;
         ReadSettings();
         LayOut();
-        m_list->Rebuild();
         RefreshControls();
         if (!m_strStartFile.isEmpty())
             QMetaObject::invokeMethod(this, &CDisplayView::OpenStartFile, Qt::QueuedConnection);

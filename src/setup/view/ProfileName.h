@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QString>
+
+#include <string>
+#include <string_view>
+
+namespace skeldon {
+
+/// The name of a profile, bytes of a file name, as text. Bytes that are no UTF-8 become the lone
+/// surrogates U+DC80 to U+DCFF, so that two different names never fall together.
+[[nodiscard]] QString NameText(std::string_view bytes);
+/// The other way, byte for byte what `NameText` was given.
+[[nodiscard]] std::string NameBytes(const QString& text);
+
+/// Whether two names count as one: letter case is no difference.
+[[nodiscard]] bool IsSameName(const QString& a, const QString& b);
+
+} // namespace skeldon

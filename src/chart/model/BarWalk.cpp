@@ -42,7 +42,7 @@ void CBarWalk::WalkLines(int first, int last, std::vector<ChartBarFill>& fills) 
 CBarWalk::FreeRows CBarWalk::AllFree() const
 {
     const int zero = ClippedRow(0);
-    return {zero, zero};
+    return {zero, zero, 0.0, 0.0};
 }
 
 /// The device row at so many pixels above the zero line, within the rows to be filled.
@@ -60,6 +60,8 @@ bool CBarWalk::Reaches(const CValueRange& range, const FreeRows& free) const
         low = std::min(low, range.Low(series));
         high = std::max(high, range.High(series));
     }
+    if (high <= free.highest && low >= free.lowest)
+        return false;
     return ClippedRow(m_view.scale.Offset(high)) < free.up ||
            ClippedRow(m_view.scale.Offset(low)) > free.down;
 }
@@ -86,11 +88,14 @@ void CBarWalk::Bar(const CMeasureRecord& line, std::int64_t column, FreeRows& fr
     {
         int offset;
         Series series;
+        double value;
     };
     std::array<End, SeriesCount> ends{};
     std::size_t count = 0;
-    for (const Series series : m_series)
-        ends[count++] = {m_view.scale.Offset(AxisValue(line, series)), series};
+    for (const Series series : m_series) {
+        const double value = AxisValue(line, series);
+        ends[count++] = {m_view.scale.Offset(value), series, value};
+    }
     // The longest first; of two as long the later series lies in front.
     std::stable_sort(
         ends.begin(), ends.begin() + static_cast<std::ptrdiff_t>(count),
@@ -105,10 +110,12 @@ void CBarWalk::Bar(const CMeasureRecord& line, std::int64_t column, FreeRows& fr
             rect.top = row;
             rect.bottom = free.up;
             free.up = row;
+            free.highest = std::max(free.highest, end.value);
         } else if (end.offset < 0 && row > free.down) {
             rect.top = free.down;
             rect.bottom = row;
             free.down = row;
+            free.lowest = std::min(free.lowest, end.value);
         } else {
             continue;
         }

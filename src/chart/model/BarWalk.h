@@ -48,12 +48,14 @@ public:
     void WalkLines(int first, int last, std::vector<ChartBarFill>& fills) const;
 
 private:
-    /// What of one side of the zero line is still free, from `top` to `bottom` - 1: bars that come
-    /// in front grow into it from the zero line.
+    /// The rows of a column that no bar fills yet. Bars grow into them from the zero line.
     struct FreeRows
     {
         int up = 0;   ///< rows above this one are free above the zero line
         int down = 0; ///< rows from this one on are free below it
+        // The values that reach as far: up to them a look at the rows can be saved.
+        double highest = 0.0;
+        double lowest = 0.0;
     };
 
     [[nodiscard]] FreeRows AllFree() const;

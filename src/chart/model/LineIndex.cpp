@@ -12,6 +12,19 @@ std::array<double, SeriesCount> ValuesOf(const CMeasureRecord& line)
             Drawable(line.m_temperature), Drawable(line.m_humidity), Drawable(line.m_resultant)};
 }
 
+/// Least and greatest of one quantity; what is no number is passed over.
+struct Extremes
+{
+    double low = std::numeric_limits<double>::infinity();
+    double high = -std::numeric_limits<double>::infinity();
+
+    void Take(double value)
+    {
+        low = value < low ? value : low;
+        high = value > high ? value : high;
+    }
+};
+
 } // namespace
 
 CValueRange::CValueRange()
@@ -24,6 +37,38 @@ CValueRange::CValueRange(const CMeasureRecord& line)
     : m_low(ValuesOf(line))
     , m_high(m_low)
 {}
+
+CValueRange::CValueRange(std::span<const CMeasureRecord> lines)
+    : CValueRange()
+{
+    // This is the one pass over a whole data set, so lines without a number are told by a sum, and
+    // only theirs go the long way.
+    Extremes x;
+    Extremes y;
+    Extremes z;
+    Extremes temperature;
+    Extremes humidity;
+    Extremes resultant;
+    bool areNumbers = true;
+    for (const CMeasureRecord& line : lines) {
+        x.Take(line.m_x);
+        y.Take(line.m_y);
+        z.Take(line.m_z);
+        temperature.Take(line.m_temperature);
+        humidity.Take(line.m_humidity);
+        resultant.Take(line.m_resultant);
+        const double sum = line.m_x + line.m_y + line.m_z + line.m_temperature + line.m_humidity +
+                           line.m_resultant;
+        areNumbers = areNumbers && sum == sum;
+    }
+    if (areNumbers) {
+        m_low = {x.low, y.low, z.low, temperature.low, humidity.low, resultant.low};
+        m_high = {x.high, y.high, z.high, temperature.high, humidity.high, resultant.high};
+        return;
+    }
+    for (const CMeasureRecord& line : lines)
+        Take(line);
+}
 
 void CValueRange::Take(const CMeasureRecord& line)
 {
@@ -58,7 +103,8 @@ void CLineIndex::Build(std::span<const CMeasureRecord> lines)
         level = {ranges, (level.count + Fan - 1) / Fan, level.lines * Fan};
     }
     m_ranges.clear();
-    m_ranges.shrink_to_fit();
+    if (m_ranges.capacity() > 2 * ranges)
+        m_ranges.shrink_to_fit();
     m_ranges.resize(ranges);
     BuildBlocks();
     BuildLevels();
@@ -69,18 +115,17 @@ void CLineIndex::BuildBlocks()
     std::int64_t previous = std::numeric_limits<std::int64_t>::min();
     const int count = Count();
     for (int first = 0; first < count; first += BlockLines) {
-        const int end = std::min(first + BlockLines, count);
+        const int lines = std::min(BlockLines, count - first);
         const auto block = static_cast<std::size_t>(first / BlockLines);
         m_blockTimes[block] = Time(first);
-        CValueRange range(Line(first));
-        for (int line = first; line < end; ++line) {
+        for (int line = first; line < first + lines; ++line) {
             const std::int64_t time = Time(line);
             if (time < previous)
                 m_runStarts.push_back(line);
             previous = time;
-            range.Take(Line(line));
         }
-        m_ranges[block] = range;
+        m_ranges[block] = CValueRange(
+            m_lines.subspan(static_cast<std::size_t>(first), static_cast<std::size_t>(lines)));
     }
 }
 

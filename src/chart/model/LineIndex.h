@@ -20,6 +20,7 @@ public:
     /// Of no line.
     CValueRange();
     explicit CValueRange(const CMeasureRecord& line);
+    explicit CValueRange(std::span<const CMeasureRecord> lines);
 
     void Take(const CMeasureRecord& line);
     void Take(const CValueRange& other);

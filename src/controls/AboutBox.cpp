@@ -64,8 +64,6 @@ void CAboutBox::showEvent(QShowEvent* event)
     const QRect around =
         owner != nullptr ? owner->frameGeometry() : QGuiApplication::primaryScreen()->geometry();
     move(around.center() - rect().center());
-    // A press anywhere goes on.
-    grabMouse();
     m_fade = {};
     GoOn();
 }
@@ -79,6 +77,9 @@ void CAboutBox::hideEvent(QHideEvent* event)
 
 void CAboutBox::OnTick()
 {
+    // By now the box is on the screen, where it can be done: a press anywhere goes on.
+    if (m_fade.Present() == CAboutFade::Phase::Before)
+        grabMouse();
     const int before = m_fade.Alpha();
     m_fade.Tick();
     if (m_fade.Alpha() != before)

@@ -31,7 +31,12 @@ QString CFilteredEdit::Filtered(const QString& typed)
 
 void CFilteredEdit::keyPressEvent(QKeyEvent* event)
 {
-    const QString typed = event->text();
+    // A letter that comes with Ctrl is a command and not typed text.
+    const Qt::KeyboardModifiers with =
+        event->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
+    QString typed = event->text();
+    if (with == Qt::ControlModifier)
+        typed.removeIf([](QChar c) { return c.isPrint(); });
     if (!typed.isEmpty() && !isReadOnly() && Filtered(typed) != typed) {
         event->accept();
         return;

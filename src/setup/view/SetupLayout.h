@@ -73,9 +73,9 @@ inline constexpr QSize View(744, 450);
 inline constexpr QSize Form(740, 446);
 inline constexpr int Border = 2;
 
-/// First and last row of the divider under the start buttons.
-inline constexpr int DividerTop = 33;
-inline constexpr int DividerBottom = 35;
+/// The two rows of the divider under the start buttons.
+inline constexpr int DividerDark = 33;
+inline constexpr int DividerLight = 34;
 
 inline constexpr QRect LeftGroup(16, 50, 348, 380);
 inline constexpr QRect RightGroup(380, 50, 344, 380);

@@ -381,6 +381,21 @@ ChartRect CChartModel::PlotInWindow() const
             std::min(plot.bottom - m_scale.m_scrollY, room - 1)};
 }
 
+ChartSizes CChartModel::Sizes() const
+{
+    return {m_metrics.clientWidth,
+            m_metrics.clientHeight,
+            m_metrics.gaugeWidth,
+            m_metrics.vertScrollWidth,
+            m_metrics.horzScrollHeight,
+            m_timeStripHeight,
+            m_metrics.labelWidth,
+            m_metrics.labelHeight,
+            m_scale.m_contentHeight,
+            m_scale.m_scrollY,
+            PlotRect()};
+}
+
 SeriesFlags CChartModel::DrawnSeries() const
 {
     SeriesFlags drawn = m_seriesShown;
@@ -430,14 +445,14 @@ ScrollBarState CChartModel::VertScroll() const
     return m_scale.VertScroll(ContentRoom());
 }
 
-std::optional<CChartModel::RowSpan> CChartModel::BarExtent() const
+std::optional<BarExtent> CChartModel::CurrentBar() const
 {
     constexpr int Thin = 2;
     const bool showsSome = std::ranges::find(m_seriesShown, true) != m_seriesShown.end();
     if (m_currentLine < 0 || m_currentLine >= Count() || !showsSome || m_window.HalfBar() >= Thin)
         return std::nullopt;
     const CMeasureRecord& line = m_index.Line(m_currentLine);
-    RowSpan span{m_scale.m_zeroY, m_scale.m_zeroY};
+    BarExtent span{m_scale.m_zeroY, m_scale.m_zeroY};
     for (const Series series : AllSeries) {
         // The humidity goes by the temperature's being shown, not by its own.
         const Series asked = series == Series::Humidity ? Series::Temperature : series;
@@ -447,7 +462,7 @@ std::optional<CChartModel::RowSpan> CChartModel::BarExtent() const
         span.top = std::min(span.top, row);
         span.bottom = std::max(span.bottom, row);
     }
-    return RowSpan{span.top - m_scale.m_scrollY, span.bottom - m_scale.m_scrollY};
+    return BarExtent{span.top - m_scale.m_scrollY, span.bottom - m_scale.m_scrollY};
 }
 
 int CChartModel::PickLine(int column) const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "chart/model/ChartLayout.h"
 #include "chart/model/GaugeTrack.h"
 #include "chart/model/LineIndex.h"
 #include "chart/model/LineRules.h"
@@ -112,14 +113,11 @@ public:
     [[nodiscard]] std::vector<TimeLabel> Labels() const;
     [[nodiscard]] ScrollBarState HorzScroll() const;
     [[nodiscard]] ScrollBarState VertScroll() const;
+    /// What the layout of the picture hangs on.
+    [[nodiscard]] ChartSizes Sizes() const;
     /// Rows, less what is scrolled off, that the current line's bar covers, both included; nothing
     /// where it is wide enough to be seen behind the cursor.
-    struct RowSpan
-    {
-        int top = 0;
-        int bottom = 0;
-    };
-    [[nodiscard]] std::optional<RowSpan> BarExtent() const;
+    [[nodiscard]] std::optional<BarExtent> CurrentBar() const;
 
     // --- interaction ---
 

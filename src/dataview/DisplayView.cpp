@@ -34,6 +34,7 @@ CDisplayView::CDisplayView(QWidget* parent)
             Qt::QueuedConnection);
     connect(m_chart, &CChartWnd::MeasureGraph, this, &CDisplayView::OnMeasureGraph,
             Qt::QueuedConnection);
+    connect(m_chart, &CChartWnd::CommandChosen, this, &CDisplayView::OnCommand);
 }
 
 CDisplayView::~CDisplayView() = default;
@@ -82,12 +83,23 @@ bool CDisplayView::CanGetData() const
 
 bool CDisplayView::CanZoomIn() const
 {
-    return CanOperate() && m_chart->HasRisingTime() && !m_chart->IsAtMaxZoom();
+    return CanOperate() && m_chart->Model().HasRisingTime() &&
+           !m_chart->Model().m_window.m_atMaxZoom;
 }
 
 bool CDisplayView::CanZoomOut() const
 {
-    return CanOperate() && m_chart->HasZoomHistory();
+    return CanOperate() && !m_chart->Model().m_history.IsEmpty();
+}
+
+bool CDisplayView::CanScaleUp() const
+{
+    return CanOperate() && m_chart->Model().Step() < CValueScale::StepCount - 1;
+}
+
+bool CDisplayView::CanScaleDown() const
+{
+    return CanOperate() && m_chart->Model().Step() > 0;
 }
 
 void CDisplayView::RefreshControls()

@@ -43,6 +43,8 @@ public:
     [[nodiscard]] bool CanGetData() const;
     [[nodiscard]] bool CanZoomIn() const;
     [[nodiscard]] bool CanZoomOut() const;
+    [[nodiscard]] bool CanScaleUp() const;
+    [[nodiscard]] bool CanScaleDown() const;
 
     [[nodiscard]] const CMeasureData& Data() const { return m_data; }
     /// The data set, for changes from outside; `RefreshControls` must follow.
@@ -78,6 +80,7 @@ private:
     void LayOut();
     [[nodiscard]] CDataViewLayout Layout() const;
     void ReadSettings();
+    void ReadChartSettings();
     void WriteSettings();
     void ReadGeneralSettings();
     void ShowSummary(const ConditionSummary& summary);
@@ -85,6 +88,7 @@ private:
     void PaintStrip(QPainter& painter) const;
 
     // Commands.
+    bool OnChartCommand(CommandId command);
     [[nodiscard]] CommandState DormantState(CommandId command) const;
     void ToggleSeries(const ButtonForm& series);
     void ToggleZoomIn();

@@ -55,6 +55,16 @@ CommandState CDisplayView::StateOf(CommandId command) const
         return {CanZoomIn()};
     case CommandId::HorizontalDeflate:
         return {CanZoomOut()};
+    case CommandId::BarChart:
+        return {CanOperate(), m_chart->Model().m_barChart};
+    case CommandId::VerticalInflate:
+        return {CanScaleUp()};
+    case CommandId::VerticalDeflate:
+        return {CanScaleDown()};
+    case CommandId::DisplayAllArea:
+        return {CanOperate() && m_chart->Model().CanDisplayAllArea()};
+    case CommandId::DisplayInCenter:
+        return {CanOperate() && m_chart->Model().CanDisplayInCenter()};
     case CommandId::UnitG:
         return {CanOperate(), unit == DispUnit::G};
     case CommandId::UnitMs2:
@@ -71,6 +81,8 @@ CommandState CDisplayView::DormantState(CommandId command) const
     const int row = m_list->CurrentRow();
     const auto index = static_cast<std::size_t>(std::max(row, 0));
     const bool isMarked = row >= 0 && m_data.IsMarked(index);
+    const int clicked = m_chart->PopupLine();
+    const bool isClickedMarked = clicked >= 0 && m_data.IsMarked(static_cast<std::size_t>(clicked));
     switch (command) {
     case CommandId::AddMark:
         return {row >= 0 && !isMarked};
@@ -91,6 +103,10 @@ CommandState CDisplayView::DormantState(CommandId command) const
                 m_data.m_badTime};
     case CommandId::DisplayExtract:
         return {!m_data.m_extract.empty()};
+    case CommandId::AddMarkAtClick:
+        return {clicked >= 0 && !isClickedMarked};
+    case CommandId::RemoveMarkAtClick:
+        return {isClickedMarked};
     case CommandId::PreviousMark:
         return {CanOperate() && row >= 0 && m_data.PreviousMark(index) >= 0};
     case CommandId::NextMark:
@@ -111,6 +127,8 @@ void CDisplayView::OnCommand(CommandId command)
         ToggleSeries(*series);
         return;
     }
+    if (OnChartCommand(command))
+        return;
     switch (command) {
     case CommandId::Open:
         return Open();
@@ -142,6 +160,40 @@ void CDisplayView::OnCommand(CommandId command)
     }
 }
 
+bool CDisplayView::OnChartCommand(CommandId command)
+{
+    const int step = m_chart->Model().Step();
+    switch (command) {
+    case CommandId::BarChart:
+        m_chart->SetBarChart(!m_chart->Model().m_barChart);
+        return true;
+    case CommandId::VerticalInflate:
+        m_chart->ChangeScaleStep(step + 1);
+        return true;
+    case CommandId::VerticalDeflate:
+        m_chart->ChangeScaleStep(step - 1);
+        return true;
+    case CommandId::HorizontalInflate:
+        if (m_chart->ZoomInTime())
+            RefreshControls();
+        return true;
+    case CommandId::HorizontalDeflate:
+        if (m_chart->ZoomBack())
+            RefreshControls();
+        return true;
+    case CommandId::DisplayAllArea:
+        m_chart->DisplayAllArea();
+        RefreshControls();
+        return true;
+    case CommandId::DisplayInCenter:
+        m_chart->DisplayInCenter();
+        RefreshControls();
+        return true;
+    default:
+        return false;
+    }
+}
+
 void CDisplayView::ToggleSeries(const ButtonForm& series)
 {
     CSkinButton& button = Button(series.button);
@@ -163,6 +215,7 @@ void CDisplayView::ToggleZoomIn()
 void CDisplayView::SetDispUnit(DispUnit unit)
 {
     App().m_dispUnit = static_cast<int>(unit);
+    m_chart->SetDisplayUnit(static_cast<DisplayUnit>(unit));
     m_list->OnUnitChanged();
 }
 

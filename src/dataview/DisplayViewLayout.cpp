@@ -54,12 +54,30 @@ void CDisplayView::SetUpButtons()
             button.SetCaption(Text(form.caption));
         if (!form.IsSeries())
             continue;
-        button.SetSwatchColour(static_cast<ColourRef>(
-            settings.GetInt(SystemSection, KeyOf(form.colourKey), static_cast<int>(form.colour))));
         const bool isShown = settings.GetInt(SystemSection, KeyOf(form.shownKey), 1) != 0;
         button.SetPressed(isShown);
         m_chart->SetSeriesShown(form.series, isShown);
     }
+}
+
+void CDisplayView::ReadChartSettings()
+{
+    const CSettings& settings = App().Settings();
+    const auto colour = [&settings](const char* key, ColourRef fallback) {
+        return static_cast<ColourRef>(
+            settings.GetInt(SystemSection, KeyOf(key), static_cast<int>(fallback)));
+    };
+    ChartColours colours;
+    for (const Series series : AllSeries)
+        colours.series[Index(series)] = colour(Info(series).colourKey, Info(series).defaultColour);
+    colours.item = colour(ItemColourKey, DefaultItemColour);
+    for (const ButtonForm& form : ButtonForms()) {
+        if (form.IsSeries())
+            Button(form.button).SetSwatchColour(colour(form.colourKey, form.colour));
+    }
+    m_chart->SetColours(colours);
+    m_chart->SetLineWeight(settings.GetInt(SystemSection, QStringLiteral("DrawGraphPic"), 1));
+    m_chart->SetElapsedAxis(settings.GetInt(SystemSection, QStringLiteral("GraphHorz"), 0) != 0);
 }
 
 void CDisplayView::ReadGeneralSettings()
@@ -73,8 +91,9 @@ void CDisplayView::ReadSettings()
     m_listBorder = Layout().ClampListBorder(App().Settings().GetInt(
         SystemSection, KeyOf(ListBorderKey), CDataViewLayout::DefaultListBorder));
     m_list->Setup(m_data);
-    m_chart->Attach(m_data);
+    m_chart->Create(m_data);
     SetUpButtons();
+    ReadChartSettings();
 }
 
 void CDisplayView::WriteSettings()
@@ -192,11 +211,8 @@ void CDisplayView::mouseMoveEvent(QMouseEvent* event)
         setCursor(isOnBar ? Qt::SplitVCursor : Qt::ArrowCursor);
         return;
     }
-    // The pointer counts only within the reach of the bar. The sign makes the bar jump by as much
-    // as it was grabbed below its top.
-    const CDataViewLayout layout = Layout();
-    const int y = layout.ClampListBorder(point.y());
-    m_listBorder = layout.ClampListBorder(y - m_nDragOffset);
+    // The sign makes the bar jump by as much as it was grabbed below its top.
+    m_listBorder = Layout().ClampListBorder(point.y() - m_nDragOffset);
     LayOut();
 }
 

@@ -139,4 +139,16 @@ void CPlotRaster::CopyTo(std::uint32_t* image, std::size_t stride) const
     }
 }
 
+void CPlotRaster::CopyFrom(const std::uint32_t* image, std::size_t stride)
+{
+    const auto columns = static_cast<std::size_t>(m_area.right - m_area.left);
+    const auto rows = static_cast<std::size_t>(Height());
+    const std::uint32_t* const corner = image + static_cast<std::size_t>(m_area.top) * stride +
+                                        static_cast<std::size_t>(m_area.left);
+    for (std::size_t row = 0; row < rows; ++row) {
+        for (std::size_t column = 0; column < columns; ++column)
+            m_pixels[column * rows + row] = corner[row * stride + column];
+    }
+}
+
 } // namespace skeldon

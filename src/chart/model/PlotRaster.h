@@ -25,6 +25,9 @@ public:
     /// holds the whole area. `stride` is the number of pixels from row to row.
     void CopyTo(std::uint32_t* image, std::size_t stride) const;
 
+    /// The other way: takes the area's pixels from such an image.
+    void CopyFrom(const std::uint32_t* image, std::size_t stride);
+
     [[nodiscard]] const ChartRect& Area() const { return m_area; }
 
 private:

@@ -1,54 +1,281 @@
 #include "chart/view/ChartWnd.h"
 
+#include "app/SkeldonApp.h"
+#include "app/WaitCursor.h"
+#include "chart/view/ScaleGauge.h"
+#include "resources/StringTable.h"
+
+#include <QFontMetrics>
 #include <QPainter>
 
 #include <algorithm>
+#include <cmath>
+#include <new>
 
 namespace skeldon {
 
+namespace {
+
+constexpr int LetterSize = 11;
+/// Layers grow by so many device pixels, so that dragging the window's edge makes few new ones.
+constexpr int LayerStep = 256;
+
+int GrownTo(int pixels)
+{
+    return (pixels + LayerStep - 1) / LayerStep * LayerStep;
+}
+
+/// Makes the layer at least so large; its contents are lost where it grows.
+bool Fit(QImage& layer, int width, int height)
+{
+    if (layer.width() >= width && layer.height() >= height)
+        return true;
+    layer = QImage(GrownTo(std::max(width, layer.width())),
+                   GrownTo(std::max(height, layer.height())), QImage::Format_RGB32);
+    layer.fill(Qt::white);
+    return !layer.isNull();
+}
+
+} // namespace
+
 CChartWnd::CChartWnd(QWidget* parent)
     : QWidget(parent)
-{}
-
-void CChartWnd::Attach(const CMeasureData& measured)
+    , m_gauge(new CChartScaleGauge(m_model.m_gauge, this))
+    , m_vertScroll(new QScrollBar(Qt::Vertical, this))
+    , m_horzScroll(new QScrollBar(Qt::Horizontal, this))
 {
-    m_data = &measured;
+    QFont small = font();
+    small.setPixelSize(LetterSize);
+    setFont(small);
+    setMouseTracking(true);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setContextMenuPolicy(Qt::NoContextMenu);
+    for (QScrollBar* const bar : {m_vertScroll, m_horzScroll}) {
+        bar->setFocusPolicy(Qt::NoFocus);
+        connect(bar, &QScrollBar::actionTriggered, this,
+                [this, bar](int action) { OnScroll(*bar, action); });
+    }
+    connect(m_gauge, &CChartScaleGauge::MeasureGraph, this, &CChartWnd::OnMeasureGraph,
+            Qt::QueuedConnection);
+    m_painter = std::make_unique<CChartPainter>(m_model, m_colours, font());
 }
 
-void CChartWnd::ResetData()
+CChartWnd::~CChartWnd() = default;
+
+void CChartWnd::Create(const CMeasureData& measured)
 {
-    m_currentLine = -1;
+    m_model.Create(measured, [metrics = QFontMetrics(font())](const std::string& text) {
+        return metrics.horizontalAdvance(QString::fromStdString(text));
+    });
+    m_model.m_unit = static_cast<DisplayUnit>(App().GetDispUnit());
+    m_model.Resize(Metrics());
+    m_model.RescaleAndRepaint();
+    CarryOut();
+}
+
+ChartMetrics CChartWnd::Metrics() const
+{
+    const QFontMetrics metrics(font());
+    ChartMetrics sizes;
+    sizes.clientWidth = width();
+    sizes.clientHeight = height();
+    sizes.vertScrollWidth = m_vertScroll->sizeHint().width();
+    sizes.horzScrollHeight = m_horzScroll->sizeHint().height();
+    sizes.labelWidth = metrics.horizontalAdvance(QStringLiteral("-99.9"));
+    sizes.labelHeight = metrics.height();
+    return sizes;
+}
+
+void CChartWnd::PlaceChildren()
+{
+    const ChartMetrics sizes = Metrics();
+    const int bar = sizes.horzScrollHeight;
+    m_gauge->setGeometry(0, 0, sizes.gaugeWidth, std::max(0, height() - 2 * bar));
+    m_vertScroll->setGeometry(width() - sizes.vertScrollWidth, 0, sizes.vertScrollWidth,
+                              std::max(0, height() - bar));
+    m_horzScroll->setGeometry(sizes.gaugeWidth, height() - bar,
+                              std::max(0, width() - sizes.gaugeWidth - sizes.vertScrollWidth), bar);
+}
+
+void CChartWnd::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    PlaceChildren();
+    m_model.Resize(Metrics());
+    CarryOut();
+}
+
+void CChartWnd::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() != QEvent::StyleChange || !m_model.IsCreated())
+        return;
+    PlaceChildren();
+    m_model.Resize(Metrics());
+    CarryOut();
+}
+
+void CChartWnd::FitLayers()
+{
+    const double ratio = devicePixelRatioF();
+    const auto device = [ratio](int pixels) { return static_cast<int>(std::ceil(pixels * ratio)); };
+    const int wide = device(std::max(width(), 1));
+    const int high = device(std::max(height(), 1));
+    if (!Fit(m_chartBitmap, wide, high) || !Fit(m_screenBitmap, wide, high) ||
+        !Fit(m_timeBitmap, wide, device(std::max(TimeStripHeight, m_model.m_timeStripHeight))))
+        throw std::bad_alloc();
+}
+
+void CChartWnd::CarryOut()
+{
+    const ChartWork work = std::exchange(m_model.m_work, ChartWork::None);
+    if (work == ChartWork::None || !m_model.IsCreated() || width() < 1 || height() < 1)
+        return;
+    UpdateScrollBars();
+    FitLayers();
+    m_painter->SetScale(devicePixelRatioF(), devicePixelRatioF());
+    PaintLayers(work);
+    m_isPainted = true;
+    m_gauge->update();
     update();
 }
 
-void CChartWnd::SetSeriesShown(std::uint16_t mask, bool shown)
+void CChartWnd::PaintLayers(ChartWork work)
 {
-    m_shown = static_cast<std::uint16_t>(shown ? m_shown | mask : m_shown & ~mask);
-    update();
+    if (work == ChartWork::Chart) {
+        const bool hasCurves = m_model.Count() >= 1;
+        const CWaitCursor wait;
+        if (hasCurves)
+            SetStatusText(Text(StringId::MakingChart));
+        m_painter->PaintChart(m_chartBitmap);
+        m_painter->PaintTimeStrip(m_timeBitmap, 0);
+        if (hasCurves)
+            ResetStatus();
+    } else if (work == ChartWork::EqualRun) {
+        m_painter->PaintEqualRun(m_chartBitmap);
+    }
+    std::optional<std::pair<int, int>> selection;
+    if (m_mouseState == MouseState::Dragging)
+        selection = {m_dragStartX, m_dragX};
+    m_painter->Compose(m_screenBitmap, m_chartBitmap, m_timeBitmap, selection);
 }
 
-bool CChartWnd::HasRisingTime() const
+void CChartWnd::UpdateScrollBars()
 {
-    if (m_data == nullptr)
-        return false;
-    const auto records = m_data->Records();
-    const auto change =
-        std::ranges::adjacent_find(records, [](const CMeasureRecord& a, const CMeasureRecord& b) {
-            return a.TimeMs() != b.TimeMs();
-        });
-    return change != records.end() && change[0].TimeMs() < change[1].TimeMs();
-}
-
-void CChartWnd::OnMeasureGraph(MeasureGraphCode code, int argument)
-{
-    if (code == MeasureGraphCode::CurrentLine)
-        m_currentLine = argument;
+    const auto show = [](QScrollBar& bar, const ScrollBarState& state) {
+        bar.setEnabled(state.isEnabled);
+        bar.setRange(0, std::max(0, state.maximum - state.page));
+        bar.setPageStep(std::max(state.page, 1));
+        bar.setSingleStep(ScrollStep(false));
+        bar.setValue(state.position);
+    };
+    show(*m_vertScroll, m_model.VertScroll());
+    show(*m_horzScroll, m_model.HorzScroll());
 }
 
 void CChartWnd::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
-    painter.fillRect(rect(), Qt::white);
+    const ChartSizes sizes = m_model.Sizes();
+    const int rows = height() - sizes.horzScrollHeight;
+    const QRect target(sizes.gaugeWidth, 0, sizes.PlotBitmapWidth(), rows);
+    if (m_isPainted) {
+        const double ratio = devicePixelRatioF();
+        painter.drawImage(QRectF(target), m_screenBitmap,
+                          QRectF(0, 0, target.width() * ratio, target.height() * ratio));
+    } else {
+        painter.fillRect(rect(), Qt::white);
+    }
+    PaintCorners(painter);
+}
+
+void CChartWnd::PaintCorners(QPainter& painter) const
+{
+    const ChartSizes sizes = m_model.Sizes();
+    const ColourRef face = App().m_viewBaseColour;
+    const auto paint = [&painter](const std::vector<ColouredRect>& fills) {
+        for (const auto& [area, colour] : fills)
+            painter.fillRect(area.left, area.top, area.right - area.left, area.bottom - area.top,
+                             ToColour(colour));
+    };
+    paint(CenterButtonFills(CenterButtonRect(sizes), m_model.CanDisplayInCenter(), face));
+    paint(AllAreaButtonFills(AllAreaButtonRect(sizes), m_model.CanDisplayAllArea(), face));
+    paint(BarButtonFills(BarButtonRect(sizes), m_model.m_barChart, face));
+}
+
+void CChartWnd::ResetData()
+{
+    m_model.ResetData();
+    CarryOut();
+}
+
+void CChartWnd::DisplayAllArea()
+{
+    m_model.DisplayAllArea();
+    CarryOut();
+}
+
+void CChartWnd::DisplayInCenter()
+{
+    m_model.DisplayInCenter();
+    CarryOut();
+}
+
+void CChartWnd::ChangeScaleStep(int step)
+{
+    m_model.ChangeScaleStep(step);
+    CarryOut();
+}
+
+bool CChartWnd::ZoomInTime()
+{
+    const bool isDone = m_model.ZoomInTime();
+    CarryOut();
+    return isDone;
+}
+
+bool CChartWnd::ZoomBack()
+{
+    const bool isDone = m_model.ZoomBack();
+    CarryOut();
+    return isDone;
+}
+
+void CChartWnd::SetSeriesShown(std::uint16_t mask, bool shown)
+{
+    m_model.SetSeriesShown(mask, shown);
+    CarryOut();
+}
+
+void CChartWnd::SetColours(const ChartColours& colours)
+{
+    m_colours = colours;
+    m_model.m_work = ChartWork::Chart;
+    CarryOut();
+}
+
+void CChartWnd::SetLineWeight(int weight)
+{
+    m_model.SetLineWeight(weight);
+    CarryOut();
+}
+
+void CChartWnd::SetElapsedAxis(bool elapsed)
+{
+    m_model.SetElapsedAxis(elapsed);
+    CarryOut();
+}
+
+void CChartWnd::SetBarChart(bool barChart)
+{
+    m_model.SetBarChart(barChart);
+    CarryOut();
+}
+
+void CChartWnd::SetDisplayUnit(DisplayUnit unit)
+{
+    m_model.SetDisplayUnit(unit);
+    CarryOut();
 }
 
 } // namespace skeldon

@@ -1,48 +1,123 @@
 #pragma once
 
 #include "app/MeasureGraph.h"
-#include "data/MeasureData.h"
+#include "chart/model/ChartModel.h"
+#include "chart/view/ChartPainter.h"
+#include "resources/Commands.h"
 
+#include <QImage>
+#include <QScrollBar>
 #include <QWidget>
 
 #include <cstdint>
+#include <memory>
+#include <optional>
+#include <utility>
 
 namespace skeldon {
 
-/// The measured result as a picture below the list.
+class CChartScaleGauge;
+
+/// The measured result as curves or bars over time, below the list. What is shown and how it
+/// follows the user is the model's; this is its window.
+///
+/// The picture lies in three layers: value axis, grid and curves; the time strip; and the
+/// composition of both with what moves with the mouse. A paint event copies the last one.
 class CChartWnd : public QWidget
 {
     Q_OBJECT
 
 public:
     explicit CChartWnd(QWidget* parent = nullptr);
+    ~CChartWnd() override;
 
-    /// Ties the chart to the data set, which must outlive it.
-    void Attach(const CMeasureData& measured);
-    /// After a load or a clear.
+    /// Ties the chart to the data set, which must outlive it, and makes it usable.
+    void Create(const CMeasureData& measured);
+    /// What is shown, and how.
+    [[nodiscard]] const CChartModel& Model() const { return m_model; }
+    [[nodiscard]] bool CanRedraw() const { return m_model.CanRedraw(); }
+    /// The line under the pointer at the last right click, -1 for none.
+    [[nodiscard]] int PopupLine() const { return m_popupLine; }
+
     void ResetData();
-    /// Shows or hides the series of a mask of `RecordFlag` hit bits.
+    void DisplayAllArea();
+    void DisplayInCenter();
+    void ChangeScaleStep(int step);
+    bool ZoomInTime();
+    bool ZoomBack();
     void SetSeriesShown(std::uint16_t mask, bool shown);
+    void SetColours(const ChartColours& colours);
+    void SetLineWeight(int weight);
+    void SetElapsedAxis(bool elapsed);
+    void SetBarChart(bool barChart);
+    void SetDisplayUnit(DisplayUnit unit);
 
-    [[nodiscard]] bool CanRedraw() const { return m_data != nullptr; }
-    /// Whether the first change of time between neighbouring lines is an increase.
-    [[nodiscard]] bool HasRisingTime() const;
-    [[nodiscard]] bool IsAtMaxZoom() const { return false; }
-    [[nodiscard]] bool HasZoomHistory() const { return false; }
-    bool BeginAreaSelection() { return false; }
-    void CancelAreaSelection() {}
+    /// Arms the selection of an area. False at the largest zoom and where one is armed already.
+    bool BeginAreaSelection();
+    void CancelAreaSelection();
+
+    /// What the list and the gauge have to say.
     void OnMeasureGraph(MeasureGraphCode code, int argument);
 
 signals:
     void MeasureGraph(skeldon::MeasureGraphCode code, int argument);
+    /// An entry of the popup menu was chosen.
+    void CommandChosen(skeldon::CommandId command);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
 
 private:
-    const CMeasureData* m_data = nullptr;
-    std::uint16_t m_shown = RecordFlag::Extracted;
-    int m_currentLine = -1;
+    /// What the mouse is doing.
+    enum class MouseState
+    {
+        Idle = 0,
+        ArmedOff = 1, ///< an area is to be selected, the pointer is off the plot
+        ArmedOn = 2,  ///< the same, on the plot
+        Dragging = 3,
+    };
+
+    // Painting.
+    [[nodiscard]] ChartMetrics Metrics() const;
+    void PlaceChildren();
+    void FitLayers();
+    void CarryOut();
+    void PaintLayers(ChartWork work);
+    void UpdateScrollBars();
+    void PaintCorners(QPainter& painter) const;
+    [[nodiscard]] ChartRect PlotHit() const;
+
+    // The user.
+    bool PressCorner(QPoint point);
+    void PressPlot(QPoint point);
+    void RightPress(QPoint point, QPoint global);
+    void PickLine(int line);
+    void StartSelection(QPoint point);
+    void ReleaseSelection();
+    void EndSelection(int argument);
+    void SetMouseState(MouseState state);
+    void OnScroll(QScrollBar& bar, int action);
+
+    CChartModel m_model;
+    ChartColours m_colours;
+    std::unique_ptr<CChartPainter> m_painter;
+    CChartScaleGauge* m_gauge;
+    QScrollBar* m_vertScroll;
+    QScrollBar* m_horzScroll;
+    QImage m_chartBitmap;
+    QImage m_timeBitmap;
+    QImage m_screenBitmap;
+    bool m_isPainted = false; ///< the layers hold a picture
+    MouseState m_mouseState = MouseState::Idle;
+    int m_dragStartX = 0;
+    int m_dragX = 0;
+    int m_popupLine = 0;
 };
 
 } // namespace skeldon

@@ -1,0 +1,239 @@
+#include "chart/view/ChartPainter.h"
+
+#include "chart/model/Rounding.h"
+#include "resources/StringTable.h"
+
+#include <algorithm>
+
+namespace skeldon {
+
+namespace {
+
+constexpr std::uint32_t Opaque = 0xFF000000;
+constexpr std::uint32_t WhitePixel = 0xFFFFFFFF;
+
+/// A colour 0x00BBGGRR as images hold it.
+std::uint32_t ToPixel(ColourRef colour)
+{
+    constexpr std::uint32_t LowByte = 0xFF;
+    return Opaque | (colour & LowByte) << 16 | (colour & LowByte << 8) | (colour >> 16 & LowByte);
+}
+
+StringId UnitText(DisplayUnit unit)
+{
+    switch (unit) {
+    case DisplayUnit::MetresPerSecond2:
+        return StringId::ChartUnitMs2;
+    case DisplayUnit::Gal:
+        return StringId::ChartUnitGal;
+    case DisplayUnit::G:
+        break;
+    }
+    return StringId::ChartUnitG;
+}
+
+void Fill(CScaledPainter& painter, const ChartRect& rect, ColourRef colour)
+{
+    painter.FillRectScaled(rect.left, rect.top, rect.right, rect.bottom, colour);
+}
+
+/// Right aligned text that ends at a column, in the middle of a few rows.
+void Label(CScaledPainter& painter, const std::string& text, int right, const ValueTickPlace& place,
+           ColourRef colour)
+{
+    painter.DrawTextScaled(QString::fromStdString(text), 0, place.labelTop, right,
+                           place.labelBottom, Qt::AlignRight, colour);
+}
+
+} // namespace
+
+ChartColours::ChartColours()
+{
+    for (const Series each : AllSeries)
+        series[Index(each)] = Info(each).defaultColour;
+}
+
+CChartPainter::CChartPainter(const CChartModel& model, const ChartColours& colours,
+                             const QFont& font)
+    : m_model(model)
+    , m_colours(colours)
+    , m_font(font)
+{}
+
+void CChartPainter::SetScale(double scaleX, double scaleY)
+{
+    m_scaleX = scaleX;
+    m_scaleY = scaleY;
+}
+
+ChartRect CChartPainter::Device(const ChartRect& rect) const
+{
+    return {RoundPixel(rect.left * m_scaleX), RoundPixel(rect.top * m_scaleY),
+            RoundPixel(rect.right * m_scaleX), RoundPixel(rect.bottom * m_scaleY)};
+}
+
+std::uint32_t CChartPainter::Pixel(Series series, bool isDimmed) const
+{
+    const ColourRef colour = m_colours.series[Index(series)];
+    return ToPixel(isDimmed ? Lightened(colour) : colour);
+}
+
+void CChartPainter::PaintChart(QImage& target)
+{
+    {
+        CScaledPainter painter(target, m_font, m_scaleX, m_scaleY);
+        Fill(painter, LayerGround(m_model.Sizes()), ChartColour::Background);
+        PaintValueTicks(painter);
+    }
+    if (m_model.Count() >= 1)
+        PaintCurves(target, false);
+}
+
+void CChartPainter::PaintEqualRun(QImage& target)
+{
+    PaintCurves(target, true);
+}
+
+void CChartPainter::PaintValueTicks(CScaledPainter& painter)
+{
+    const ChartSizes sizes = m_model.Sizes();
+    for (const ValueTick& tick : ValueTicks(m_model.m_scale, sizes.clientHeight, m_model.m_unit)) {
+        const ValueTickPlace place = PlaceValueTick(sizes, tick.row);
+        Fill(painter, place.gridLine, ChartColour::Grid);
+        Label(painter, tick.acceleration, place.accelerationRight, place, ChartColour::Text);
+        Label(painter, tick.temperature, place.temperatureRight, place,
+              m_colours.series[Index(Series::Temperature)]);
+        Label(painter, tick.humidity, place.humidityRight, place,
+              m_colours.series[Index(Series::Humidity)]);
+    }
+}
+
+/// The part of the layer within the clip of the curves, made column by column.
+void CChartPainter::PaintCurves(QImage& target, bool equalRunAlone)
+{
+    const ChartSizes sizes = m_model.Sizes();
+    ChartRect area = Device(CurveClip(sizes));
+    area.left = std::max(area.left, 0);
+    area.top = std::max(area.top, 0);
+    area.right = std::min(area.right, target.width());
+    area.bottom = std::min(area.bottom, target.height());
+    const auto stride = static_cast<std::size_t>(target.bytesPerLine()) / sizeof(std::uint32_t);
+    auto* const pixels = reinterpret_cast<std::uint32_t*>(target.bits());
+    m_raster.Reset(area, WhitePixel);
+    const WalkView view = m_model.View(m_scaleX, m_scaleY);
+    if (equalRunAlone) {
+        m_raster.CopyFrom(pixels, stride);
+        PaintBars(view, m_model.m_equalRun);
+    } else {
+        PaintGrid(m_raster);
+        if (m_model.m_barChart)
+            PaintBars(view, m_model.m_drawn);
+        else
+            PaintLines(view);
+    }
+    m_raster.CopyTo(pixels, stride);
+}
+
+void CChartPainter::PaintGrid(CPlotRaster& raster)
+{
+    const ChartSizes sizes = m_model.Sizes();
+    for (const ValueTick& tick : ValueTicks(m_model.m_scale, sizes.clientHeight, m_model.m_unit))
+        raster.Fill(Device(PlaceValueTick(sizes, tick.row).gridLine), ToPixel(ChartColour::Grid));
+    for (const TimeTick& tick : m_model.Ticks())
+        raster.Fill(Device(TimeGridLine(sizes, tick.column)), ToPixel(ChartColour::Grid));
+}
+
+void CChartPainter::PaintLines(const WalkView& view)
+{
+    m_strokes.clear();
+    CLineWalk(m_model.m_index, view).Walk(m_strokes);
+    const int width = std::max(1, RoundPixel(m_model.m_lineWeight * m_scaleX));
+    for (const ChartStroke& stroke : m_strokes)
+        m_raster.Line(stroke.x1, stroke.y1, stroke.x2, stroke.y2, width,
+                      Pixel(stroke.series, stroke.isDimmed));
+}
+
+void CChartPainter::PaintBars(const WalkView& view, const LineSpan& lines)
+{
+    m_fills.clear();
+    const ChartRect area = m_raster.Area();
+    CBarWalk(m_model.m_index, view, m_model.m_currentLine, area.top, area.bottom)
+        .WalkLines(lines.first, lines.last, m_fills);
+    for (const ChartBarFill& fill : m_fills)
+        m_raster.Fill(fill.rect, fill.kind == BarFillKind::Edge
+                                     ? WhitePixel
+                                     : Pixel(fill.series, fill.isDimmed));
+}
+
+void CChartPainter::PaintTimeStrip(QImage& target, int top)
+{
+    const ChartSizes sizes = m_model.Sizes();
+    CScaledPainter painter(target, m_font, m_scaleX, m_scaleY);
+    Fill(painter, StripGround(sizes, top), ChartColour::Background);
+    if (m_model.Count() < 1)
+        return;
+    for (const TimeLabel& label : m_model.Labels())
+        painter.DrawRotatedText(label.column, top, CScaledPainter::Vertical::Column,
+                                QString::fromStdString(label.text), ChartColour::Text);
+    const ChartRect name = AxisNameRect(sizes, top);
+    painter.DrawTextScaled(
+        Text(m_model.m_elapsedAxis ? StringId::ChartElapsedTime : StringId::ChartTime), name.left,
+        name.top, name.right, name.bottom, Qt::AlignLeft, ChartColour::Text);
+}
+
+void CChartPainter::PaintOver(QImage& target, const std::optional<std::pair<int, int>>& selection)
+{
+    const ChartSizes sizes = m_model.Sizes();
+    const ComposeLayout layout = Composed(sizes);
+    CScaledPainter painter(target, m_font, m_scaleX, m_scaleY);
+    const auto bar = m_model.m_barChart ? m_model.CurrentBar() : std::nullopt;
+    for (const ChartRect& part : CursorFills(sizes, layout.plotHit, m_model.m_cursorX, bar))
+        Fill(painter, part, m_colours.item);
+    using Vertical = CScaledPainter::Vertical;
+    painter.DrawRotatedText(layout.leftTitleColumn, layout.titleRow, Vertical::Centred,
+                            Text(StringId::ChartAxes) + Text(UnitText(m_model.m_unit)),
+                            ChartColour::Text);
+    painter.DrawRotatedText(layout.rightTitleColumn, layout.titleRow, Vertical::Downward,
+                            Text(StringId::ChartTemperature),
+                            m_colours.series[Index(Series::Temperature)]);
+    painter.DrawRotatedText(layout.rightTitleColumn, layout.titleRow, Vertical::Upward,
+                            Text(StringId::ChartHumidity),
+                            m_colours.series[Index(Series::Humidity)]);
+    if (!selection)
+        return;
+    const SelectionFills fills =
+        SelectionBetween(sizes, layout.plotHit, selection->first, selection->second);
+    for (const ChartRect& edge : fills.edges)
+        Fill(painter, edge, ChartColour::Selection);
+    if (fills.tint)
+        painter.BlendRectScaled(fills.tint->left, fills.tint->top, fills.tint->right,
+                                fills.tint->bottom, ChartColour::Selection, SelectionAlpha);
+}
+
+void CChartPainter::Compose(QImage& target, const QImage& chart, const QImage& strip,
+                            const std::optional<std::pair<int, int>>& selection)
+{
+    const ComposeLayout layout = Composed(m_model.Sizes());
+    const auto copyRows = [&](const QImage& from, int rows, int to) {
+        const int first = RoundPixel(to * m_scaleY);
+        const int count = std::min(
+            {RoundPixel((to + rows) * m_scaleY) - first, target.height() - first, from.height()});
+        const auto bytes =
+            static_cast<std::size_t>(std::min(target.bytesPerLine(), from.bytesPerLine()));
+        for (int row = 0; row < count; ++row)
+            std::copy_n(from.constScanLine(row), bytes, target.scanLine(first + row));
+    };
+    copyRows(chart, layout.chartRows, 0);
+    {
+        CScaledPainter painter(target, m_font, m_scaleX, m_scaleY);
+        if (layout.ground)
+            Fill(painter, *layout.ground, ChartColour::Background);
+        if (layout.band)
+            Fill(painter, *layout.band, ChartColour::Background);
+    }
+    if (layout.hasStrip)
+        copyRows(strip, m_model.m_timeStripHeight, layout.stripTop);
+    PaintOver(target, selection);
+}
+
+} // namespace skeldon

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "app/Colour.h"
+#include "chart/model/BarWalk.h"
+#include "chart/model/ChartModel.h"
+#include "chart/model/PlotRaster.h"
+#include "chart/view/ScaledPainter.h"
+
+#include <QFont>
+#include <QImage>
+
+#include <array>
+#include <vector>
+
+namespace skeldon {
+
+/// Colours of the chart that a user can change.
+struct ChartColours
+{
+    std::array<ColourRef, SeriesCount> series{};
+    ColourRef item = DefaultItemColour; ///< the cursor
+
+    ChartColours();
+};
+
+/// Paints the layers of a chart into pictures: value axis, grid and curves; the time strip; and the
+/// composition of both with cursor, titles and selection. The same for the screen at any pixel
+/// ratio, a picture and paper: only the factors differ.
+class CChartPainter
+{
+public:
+    /// `model` and `colours` must outlive the painter.
+    CChartPainter(const CChartModel& model, const ChartColours& colours, const QFont& font);
+
+    void SetScale(double scaleX, double scaleY);
+
+    /// The chart layer from row `m_scrollY` on. The picture must be as wide as the chart and at
+    /// least as high as the rows that are shown.
+    void PaintChart(QImage& target);
+    /// The bars of the lines that share the current line's time, over what is there.
+    void PaintEqualRun(QImage& target);
+    /// The time strip, from row `top` on.
+    void PaintTimeStrip(QImage& target, int top);
+    /// All that lies over the layers: cursor, titles, and the selection between two columns of the
+    /// client area where there is one.
+    void PaintOver(QImage& target, const std::optional<std::pair<int, int>>& selection);
+    /// All at once.
+    void Compose(QImage& target, const QImage& chart, const QImage& strip,
+                 const std::optional<std::pair<int, int>>& selection);
+
+private:
+    void PaintGround(CScaledPainter& painter);
+    void PaintValueTicks(CScaledPainter& painter);
+    void PaintCurves(QImage& target, bool equalRunAlone);
+    void PaintLines(const WalkView& view);
+    void PaintBars(const WalkView& view, const LineSpan& lines);
+    void PaintGrid(CPlotRaster& raster);
+    [[nodiscard]] ChartRect Device(const ChartRect& rect) const;
+    [[nodiscard]] std::uint32_t Pixel(Series series, bool isDimmed) const;
+
+    const CChartModel& m_model;
+    const ChartColours& m_colours;
+    QFont m_font;
+    double m_scaleX = 1.0;
+    double m_scaleY = 1.0;
+    CPlotRaster m_raster;
+    std::vector<ChartStroke> m_strokes;
+    std::vector<ChartBarFill> m_fills;
+};
+
+} // namespace skeldon

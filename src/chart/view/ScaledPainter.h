@@ -1,0 +1,55 @@
+#pragma once
+
+#include "app/Colour.h"
+
+#include <QFont>
+#include <QImage>
+#include <QPainter>
+#include <QString>
+
+namespace skeldon {
+
+/// What all painting of the chart goes through, so that the same painter serves the screen at any
+/// pixel ratio, a picture and paper: each coordinate is multiplied by a factor and rounded to a
+/// device pixel.
+class CScaledPainter
+{
+public:
+    /// Which end of a vertical text its place is.
+    enum class Vertical
+    {
+        Centred = 0,  ///< centred on the row
+        Downward = 1, ///< starts at the row and runs down
+        Upward = 2,   ///< ends at the row and runs up from it
+        Column = 3,   ///< centred on the column, starts at the row and runs down
+    };
+
+    /// Paints on `target`, which must outlive the painter. `font` has the size that it has at a
+    /// factor of 1.
+    CScaledPainter(QImage& target, const QFont& font, double scaleX, double scaleY);
+
+    void FillRectScaled(int left, int top, int right, int bottom, ColourRef colour);
+    /// One line of text, not clipped, at the left or right side and in the middle of the height.
+    void DrawTextScaled(const QString& text, int left, int top, int right, int bottom,
+                        Qt::AlignmentFlag side, ColourRef colour);
+    /// Text that reads upward, on a white ground that wipes what lies under it. Gives its length
+    /// before scaling.
+    int DrawRotatedText(int x, int y, Vertical alignment, const QString& text, ColourRef colour);
+    /// A veil of `colour` over an area, `alpha` of 255.
+    void BlendRectScaled(int left, int top, int right, int bottom, ColourRef colour, int alpha);
+
+    [[nodiscard]] double ScaleX() const { return m_scaleX; }
+    [[nodiscard]] double ScaleY() const { return m_scaleY; }
+    [[nodiscard]] int DeviceX(int x) const;
+    [[nodiscard]] int DeviceY(int y) const;
+    [[nodiscard]] QPainter& Painter() { return m_painter; }
+
+private:
+    [[nodiscard]] QRect DeviceRect(int left, int top, int right, int bottom) const;
+
+    double m_scaleX;
+    double m_scaleY;
+    QPainter m_painter;
+};
+
+} // namespace skeldon

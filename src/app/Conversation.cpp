@@ -44,6 +44,9 @@ void CConversation::Settle()
     while (IsUnderWay())
         loop.exec(QEventLoop::ExcludeUserInputEvents);
     m_loop = outer;
+    // What the outer loop waits for may have ended inside of this one.
+    if (outer != nullptr)
+        outer->quit();
 }
 
 void CConversation::OnEnded()

@@ -6,6 +6,7 @@
 #include "resources/TextFormat.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 namespace skeldon {
 
@@ -22,8 +23,9 @@ QString FromPath(const std::filesystem::path& path)
 std::optional<SaveTarget> AskSaveTarget(QWidget* parent, const FileQuestion& question,
                                         const char* extension)
 {
+    FileQuestion asked = question;
     for (;;) {
-        const std::optional<QString> chosen = App().Prompts().AskSavePath(parent, question);
+        const std::optional<QString> chosen = App().Prompts().AskSavePath(parent, asked);
         if (!chosen)
             return std::nullopt;
         SaveTarget target{*chosen, WithExtension(ToPath(*chosen), extension)};
@@ -33,6 +35,9 @@ std::optional<SaveTarget> AskSaveTarget(QWidget* parent, const FileQuestion& que
         const QString text = FormatText(Text(StringId::AskReplaceFile), {FromPath(target.target)});
         if (App().Prompts().ShowBox(parent, BoxKind::YesNo, text) == Answer::Yes)
             return target;
+        // Asked again, the dialog stands where the user was.
+        asked.folder = QFileInfo(*chosen).path();
+        asked.name = QFileInfo(*chosen).fileName();
     }
 }
 

@@ -2,8 +2,11 @@
 
 #include "app/SkeldonApp.h"
 
+#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QElapsedTimer>
+#include <QThread>
 #include <QWidget>
 
 namespace skeldon {
@@ -20,8 +23,10 @@ public:
     {
         if (event->type() != QEvent::Close || !watched->isWidgetType())
             return false;
-        // A dialog that the program itself closes is none of the user's wishes.
-        if (!event->spontaneous() && watched != App().MainWindow())
+        // A dialog that the program itself closes, or that waits for its answer inside of the pump,
+        // is no wish to end the program.
+        const bool isInside = QThread::currentThread()->loopLevel() > m_level;
+        if ((!event->spontaneous() || isInside) && watched != App().MainWindow())
             return false;
         event->ignore();
         m_caught = true;
@@ -29,6 +34,9 @@ public:
     }
 
     bool m_caught = false;
+
+private:
+    const int m_level = QThread::currentThread()->loopLevel();
 };
 
 int pumpDepth = 0;
@@ -37,9 +45,16 @@ int pumpDepth = 0;
 
 bool PumpMessages()
 {
+    // A timer without a pause would never leave the queue empty.
+    constexpr qint64 LongestMs = 100;
     CCloseCatcher catcher;
+    QElapsedTimer pumping;
+    pumping.start();
+    QAbstractEventDispatcher* const dispatcher = QAbstractEventDispatcher::instance();
     ++pumpDepth;
-    QCoreApplication::processEvents();
+    while (dispatcher->processEvents(QEventLoop::AllEvents) && !catcher.m_caught &&
+           !pumping.hasExpired(LongestMs)) {
+    }
     --pumpDepth;
     QWidget* const window = App().MainWindow();
     if (catcher.m_caught && window != nullptr)

@@ -35,8 +35,10 @@ private:
         Hold = 2,
     };
 
+    void LockWithPatience();
+
     CLockFile m_mutex;
-    CSharedBlock m_block;
+    std::optional<CSharedBlock> m_block;
 };
 
 } // namespace skeldon

@@ -33,6 +33,7 @@ std::uint32_t HandleOf(QWidget* window)
 
 CSkeldonApp::CSkeldonApp(AppServices services)
     : m_link(std::move(services.finder), std::move(services.opener), *services.clock)
+    , m_sharedBlock(services.sharedBlock, services.sharedMutex)
     , m_services(std::move(services))
 {
     theApp = this;

@@ -12,6 +12,7 @@
 
 #include <functional>
 #include <memory>
+#include <string>
 
 namespace skeldon {
 
@@ -33,6 +34,9 @@ struct AppServices
     PortOpener opener;
     CClock* clock = nullptr; ///< must outlive the application object
     QString language;        ///< the system's language by its English name
+    /// Names of the block that other programs see, and of its mutex.
+    std::string sharedBlock = CSharedLink::BlockName;
+    std::string sharedMutex = CSharedLink::MutexName;
     /// Makes the main window, which the caller owns.
     std::function<CFrame*()> makeFrame;
     /// Shows the about box and waits until it is closed.

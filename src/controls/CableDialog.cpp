@@ -12,6 +12,13 @@
 
 namespace skeldon {
 
+namespace {
+
+constexpr int PictureGap = 12;
+constexpr int LeastTextWidth = 200;
+
+} // namespace
+
 CCableDialog::CCableDialog(CRecorderLink& link, QWidget* parent)
     : QDialog(parent)
     , m_link(link)
@@ -20,6 +27,7 @@ CCableDialog::CCableDialog(CRecorderLink& link, QWidget* parent)
     auto* const picture = new QLabel(this);
     picture->setPixmap(QPixmap::fromImage(Picture(PictureId::Cable, devicePixelRatioF())));
     auto* const text = new QLabel(Text(StringId::DisconnectCable), this);
+    text->setMinimumWidth(LeastTextWidth);
     auto* const buttons = new QDialogButtonBox(this);
     m_ok = buttons->addButton(Text(StringId::ButtonOk), QDialogButtonBox::AcceptRole);
     buttons->setCenterButtons(true);
@@ -27,6 +35,7 @@ CCableDialog::CCableDialog(CRecorderLink& link, QWidget* parent)
 
     auto* const request = new QHBoxLayout;
     request->addWidget(picture);
+    request->addSpacing(PictureGap);
     request->addWidget(text, 1);
     auto* const layout = new QVBoxLayout(this);
     layout->addLayout(request);

@@ -18,6 +18,8 @@ namespace skeldon {
 namespace {
 
 constexpr CalendarSeconds ProposedDelay = 120;
+/// Leaves room for the title.
+constexpr int LeastWidth = 280;
 
 CalendarSeconds PresentTime()
 {
@@ -47,7 +49,9 @@ CReservedStartDialog::CReservedStartDialog(QWidget* parent)
     connect(m_time, &QTimeEdit::timeChanged, this, &CReservedStartDialog::RefreshOk);
 
     auto* const group = new QGroupBox(Text(StringId::StartDateTime), this);
+    group->setMinimumWidth(LeastWidth);
     auto* const form = new QFormLayout(group);
+    form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
     form->addRow(Text(StringId::StartDate), m_date);
     form->addRow(Text(StringId::StartTime), m_time);
     auto* const layout = new QVBoxLayout(this);

@@ -60,6 +60,13 @@ bool IsCondition(SetupPanel panel)
     return panel != SetupPanel::Records;
 }
 
+/// Small enough for the longer caption, so that both look alike.
+QFont StartButtonFont(QFont font)
+{
+    font.setPixelSize(setup_layout::FontHeight - 1);
+    return font;
+}
+
 /// An etched frame, as group boxes have it.
 void DrawEtched(QPainter& painter, const QRect& group, const QColor& light, const QColor& dark)
 {
@@ -151,6 +158,8 @@ void CSetupForm::MakeButtons()
             button->SetUpPicture(form.picture);
         button->SetTint(TintOf(App().m_viewBaseColour));
         button->SetCaption(Text(form.caption));
+        if (form.button == SetupButton::StartPrompt || form.button == SetupButton::StartReserved)
+            button->setFont(StartButtonFont(font()));
         const QRect place = PlaceOf(form.button, App().IsJapanese());
         if (place.isEmpty()) {
             button->setEnabled(false);

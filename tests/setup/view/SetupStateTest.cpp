@@ -1,6 +1,4 @@
-#include "setup/view/SetupState.h"
-#include "setup/view/ProfileFolder.h"
-#include "setup/view/ProfileName.h"
+#include "setup/view/ShownState.h"
 
 #include <QTest>
 

@@ -60,12 +60,13 @@ bool CChartModel::CanDisplayInCenter() const
 
 bool CChartModel::HasRisingTime() const
 {
-    return IsCreated() && RisesAtFirstChange(m_data->Records());
+    return m_hasRisingTime;
 }
 
 void CChartModel::IndexLines()
 {
     const auto lines = m_data->Records();
+    m_hasRisingTime = RisesAtFirstChange(lines);
     const bool isBroken = m_data->m_firstBreak >= 0;
     m_index.Build(isBroken ? lines.first(std::min(static_cast<std::size_t>(m_data->m_firstBreak),
                                                   lines.size()))
@@ -193,6 +194,15 @@ void CChartModel::ZoomToColumns(int column, int otherColumn)
 {
     m_history.Push(m_window.View());
     SetWindow(m_window.Between(column, otherColumn));
+}
+
+void CChartModel::ShowWindow(const CChartRange& window)
+{
+    const auto within = [this](std::int64_t time) {
+        return std::clamp(time, m_window.m_dataStart, m_window.m_dataEnd);
+    };
+    if (Count() >= 1)
+        SetWindow({within(window.start), within(window.end)});
 }
 
 void CChartModel::SetWindow(const CChartRange& window)

@@ -95,6 +95,8 @@ public:
     void ScrollHorizontally(ScrollRequest request, int tracked, bool isCtrlDown);
     /// The current line is now `line`; -1 and lines that are not shown change nothing.
     void FollowLine(int line);
+    /// Shows a window as far as there is data in it.
+    void ShowWindow(const CChartRange& window);
     /// Zooms to the window between two content columns.
     void ZoomToColumns(int column, int otherColumn);
 
@@ -168,6 +170,7 @@ private:
 
     Measure m_measure;
     CTimeTicks m_ticks;
+    bool m_hasRisingTime = false; ///< kept, since many lines may share the first time
 };
 
 } // namespace skeldon

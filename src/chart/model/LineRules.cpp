@@ -83,6 +83,8 @@ int LineNear(const CLineIndex& index, const CTimeWindow& window, const LineSpan&
 
 LineSpan EqualTimes(const CLineIndex& index, const LineSpan& drawn, int line)
 {
+    if (line < drawn.first || line > drawn.last)
+        return {};
     const std::int64_t time = index.Time(line);
     const int begin = std::max(index.RunStart(line), drawn.first);
     const int end = std::min(index.RunEnd(line), drawn.last + 1);

@@ -35,7 +35,7 @@ struct LineSpan
 [[nodiscard]] int LineNear(const CLineIndex& index, const CTimeWindow& window,
                            const LineSpan& drawn, int column);
 
-/// The lines of `drawn` about `line` that have its very time.
+/// The lines of `drawn` about `line` that have its very time; empty if it is not one of them.
 [[nodiscard]] LineSpan EqualTimes(const CLineIndex& index, const LineSpan& drawn, int line);
 
 /// Where a walk over `drawn` leaves the cursor: the current line's column, 0 if it is not met. In

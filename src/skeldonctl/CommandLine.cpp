@@ -3,9 +3,10 @@
 #include "base/Version.h"
 
 #include <CLI/CLI.hpp>
-#include <algorithm>
+#include <charconv>
 #include <map>
 #include <sstream>
+#include <tuple>
 
 namespace skeldon {
 
@@ -23,7 +24,11 @@ struct Options
     InfoCommand info;
     ConvertCommand convert;
     CsvCommand csv;
+    ChartCommand chart;
     std::string at;
+    std::string size;
+    std::string from;
+    std::string to;
     bool twoFields = false;
     bool noResultant = false;
     bool noTemperature = false;
@@ -132,6 +137,76 @@ void AddFileCommands(CLI::App& app, Options& options)
     csv->add_flag("--no-humidity", options.noHumidity, "Without the humidity");
 }
 
+void AddChart(CLI::App& app, Options& options)
+{
+    CLI::App* const chart = AddCommand(app, "chart", "Draw a data file as a picture");
+    AddPath(*chart, "FILE", options.chart.file, "", "Data file (skd, sks)", true);
+    AddPath(*chart, "-o,--output", options.chart.output, "OUT.png", "Picture to write", true);
+    chart->add_option("--size", options.size, "Size of the picture, 320x200 to 16384x16384")
+        ->type_name("WxH");
+    chart->add_flag("--bars", options.chart.bars, "Bars instead of lines");
+    chart
+        ->add_option("--series", options.chart.series,
+                     "Letters of the series to show: x y z, r resultant, t temperature, h humidity")
+        ->type_name("LETTERS")
+        ->check([](const std::string& text) {
+            const bool isKnown = text.find_first_not_of("xyzrth") == std::string::npos;
+            return isKnown ? std::string() : "\"" + text + "\" holds other letters than xyzrth";
+        });
+    chart->add_option("--unit", options.chart.unit, "Unit of the axes: g, ms2 or gal")
+        ->type_name("UNIT")
+        ->transform(CLI::CheckedTransformer(
+            std::map<std::string, ChartUnit>{{"g", ChartUnit::G},
+                                             {"ms2", ChartUnit::MetresPerSecondSquared},
+                                             {"gal", ChartUnit::Gal}},
+            CLI::ignore_case));
+    for (const auto& [name, text, description] :
+         {std::tuple{"--from", &options.from, "First local time that is shown"},
+          std::tuple{"--to", &options.to, "Last local time that is shown"}})
+        chart->add_option(name, *text, description)->type_name("\"YYYY-MM-DD HH:MM:SS[.mmm]\"");
+    chart->add_flag("--elapsed", options.chart.elapsed, "Time since the first line on the axis");
+}
+
+Refusal Misused(const std::string& text)
+{
+    return {ExitStatus::Usage, "skeldonctl: " + text + '\n'};
+}
+
+/// Reads "1200x700".
+bool ParseSize(const std::string& text, ChartCommand& command)
+{
+    const std::size_t cross = text.find('x');
+    const auto side = [&text](std::size_t begin, std::size_t end, int& value) {
+        const char* const first = text.data() + begin;
+        const char* const last = text.data() + end;
+        const auto [behind, error] = std::from_chars(first, last, value);
+        return error == std::errc() && behind == last && value <= ChartCommand::LargestSide;
+    };
+    return cross != std::string::npos && side(0, cross, command.width) &&
+           side(cross + 1, text.size(), command.height) &&
+           command.width >= ChartCommand::SmallestWidth &&
+           command.height >= ChartCommand::SmallestHeight;
+}
+
+std::variant<Command, Refusal> ChosenChart(Options& options)
+{
+    ChartCommand& chart = options.chart;
+    if (!options.size.empty() && !ParseSize(options.size, chart))
+        return Misused("--size: \"" + options.size + "\" is no size from 320x200 to 16384x16384");
+    for (const auto& [name, text, instant] : {std::tuple{"--from", &options.from, &chart.from},
+                                              std::tuple{"--to", &options.to, &chart.to}}) {
+        if (text->empty())
+            continue;
+        *instant = ParseInstant(*text);
+        if (!*instant)
+            return Misused(std::string(name) + ": \"" + *text +
+                           "\" is no time \"YYYY-MM-DD HH:MM:SS[.mmm]\"");
+    }
+    if (chart.from && chart.to && *chart.from > *chart.to)
+        return Misused("--from lies behind --to");
+    return chart;
+}
+
 /// The command that was given; the line has been parsed.
 std::variant<Command, Refusal> Chosen(const CLI::App& app, Options& options)
 {
@@ -150,12 +225,13 @@ std::variant<Command, Refusal> Chosen(const CLI::App& app, Options& options)
         return options.info;
     if (name == "convert")
         return options.convert;
+    if (name == "chart")
+        return ChosenChart(options);
     if (name == "start") {
         if (!options.at.empty()) {
             options.start.at = ParseMinute(options.at);
             if (!options.start.at)
-                return Refusal{ExitStatus::Usage, "skeldonctl: --at: \"" + options.at +
-                                                      "\" is no time \"YYYY-MM-DD HH:MM\"\n"};
+                return Misused("--at: \"" + options.at + "\" is no time \"YYYY-MM-DD HH:MM\"");
         }
         return options.start;
     }
@@ -180,6 +256,7 @@ std::variant<Command, Refusal> ParseCommandLine(const std::vector<std::string>& 
                "more.");
     AddRecorderCommands(app, options);
     AddFileCommands(app, options);
+    AddChart(app, options);
     try {
         std::vector<std::string> reversed(arguments.rbegin(), arguments.rend());
         app.parse(std::move(reversed));
@@ -190,34 +267,6 @@ std::variant<Command, Refusal> ParseCommandLine(const std::vector<std::string>& 
         return Refusal{isFine ? ExitStatus::Done : ExitStatus::Usage, out.str() + err.str()};
     }
     return Chosen(app, options);
-}
-
-std::optional<CalendarFields> ParseMinute(const std::string& text)
-{
-    constexpr std::string_view Form = "dddd-dd-dd dd:dd";
-    const bool isFormed = std::ranges::equal(text, Form, [](char given, char wanted) {
-        return wanted == 'd' ? given >= '0' && given <= '9' : given == wanted;
-    });
-    if (!isFormed)
-        return std::nullopt;
-    const auto number = [&](std::size_t position, std::size_t digits) {
-        return std::stoi(text.substr(position, digits));
-    };
-    const CalendarFields fields{.year = number(0, 4),
-                                .month = number(5, 2),
-                                .day = number(8, 2),
-                                .hour = number(11, 2),
-                                .minute = number(14, 2),
-                                .second = 0};
-    // What the calendar would roll over, such as February 30th, names no day. An hour that the
-    // clock skips is left to it. Noon is there on every day.
-    CalendarFields noon = fields;
-    noon.hour = 12;
-    noon.minute = 0;
-    const bool isDay = ToLocalFields(FromLocalFields(noon)) == noon;
-    if (!isDay || fields.hour > 23 || fields.minute > 59)
-        return std::nullopt;
-    return fields;
 }
 
 } // namespace skeldon

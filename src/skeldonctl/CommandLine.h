@@ -4,6 +4,7 @@
 #include "files/CsvText.h"
 #include "skeldonctl/ExitStatus.h"
 
+#include <cstdint>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -68,8 +69,35 @@ struct CsvCommand
     CsvOptions options;
 };
 
+/// The unit of the acceleration axis.
+enum class ChartUnit
+{
+    G,
+    MetresPerSecondSquared,
+    Gal,
+};
+
+struct ChartCommand
+{
+    // The smallest picture in which a plot is left, and one that no memory is short of.
+    static constexpr int SmallestWidth = 320;
+    static constexpr int SmallestHeight = 200;
+    static constexpr int LargestSide = 16384;
+
+    std::filesystem::path file;
+    std::filesystem::path output;
+    int width = 1200; ///< of the whole picture, in pixels
+    int height = 700;
+    bool bars = false;
+    std::string series = "xyzrth"; ///< a letter for each series shown
+    ChartUnit unit = ChartUnit::G;
+    std::optional<std::int64_t> from; ///< milliseconds since the epoch
+    std::optional<std::int64_t> to;
+    bool elapsed = false;
+};
+
 using Command = std::variant<StatusCommand, GetCommand, OnlineCommand, StartCommand, InfoCommand,
-                             ConvertCommand, CsvCommand>;
+                             ConvertCommand, CsvCommand, ChartCommand>;
 
 /// Why there is no command: a text that was asked for, or what is wrong with the line.
 struct Refusal
@@ -84,5 +112,9 @@ ParseCommandLine(const std::vector<std::string>& arguments);
 
 /// Reads "YYYY-MM-DD HH:MM"; nothing where the text is not of that form or names no date or time.
 [[nodiscard]] std::optional<CalendarFields> ParseMinute(const std::string& text);
+
+/// Reads "YYYY-MM-DD HH:MM:SS", with ".mmm" behind it or not, as milliseconds since the epoch;
+/// nothing likewise.
+[[nodiscard]] std::optional<std::int64_t> ParseInstant(const std::string& text);
 
 } // namespace skeldon

@@ -10,10 +10,7 @@
 
 namespace skeldon {
 
-namespace {
-
-/// Reads and analyses a data file; tells what is wrong with it.
-ExitStatus Load(const std::filesystem::path& path, CMeasureData& data)
+ExitStatus LoadDataFile(const std::filesystem::path& path, CMeasureData& data)
 {
     const DataFileResult result = ReadFile(data, path);
     if (!result)
@@ -29,12 +26,10 @@ bool IsSameFile(const std::filesystem::path& one, const std::filesystem::path& o
     return std::filesystem::equivalent(one, other, ignored);
 }
 
-} // namespace
-
 ExitStatus Run(const InfoCommand& command)
 {
     CMeasureData data;
-    if (const ExitStatus loaded = Load(command.file, data); loaded != ExitStatus::Done)
+    if (const ExitStatus loaded = LoadDataFile(command.file, data); loaded != ExitStatus::Done)
         return loaded;
     CStandardOutput output;
     if (!command.json)
@@ -48,7 +43,7 @@ ExitStatus Run(const ConvertCommand& command)
     if (IsSameFile(command.file, TargetOf(command.output, "skd")))
         return FailOn(command.output, "is the input itself");
     CMeasureData data;
-    if (const ExitStatus loaded = Load(command.file, data); loaded != ExitStatus::Done)
+    if (const ExitStatus loaded = LoadDataFile(command.file, data); loaded != ExitStatus::Done)
         return loaded;
     return SaveDataFile(data, command.output);
 }
@@ -58,7 +53,7 @@ ExitStatus Run(const CsvCommand& command)
     if (!command.output.empty() && IsSameFile(command.file, TargetOf(command.output, "csv")))
         return FailOn(command.output, "is the input itself");
     CMeasureData data;
-    if (const ExitStatus loaded = Load(command.file, data); loaded != ExitStatus::Done)
+    if (const ExitStatus loaded = LoadDataFile(command.file, data); loaded != ExitStatus::Done)
         return loaded;
     if (!command.output.empty())
         return SaveCsvFile(data, command.output, command.options);

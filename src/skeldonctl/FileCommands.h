@@ -1,5 +1,6 @@
 #pragma once
 
+#include "data/MeasureData.h"
 #include "skeldonctl/CommandLine.h"
 #include "skeldonctl/ExitStatus.h"
 
@@ -10,5 +11,10 @@ namespace skeldon {
 ExitStatus Run(const InfoCommand& command);
 ExitStatus Run(const ConvertCommand& command);
 ExitStatus Run(const CsvCommand& command);
+
+/// Reads and analyses a data file; tells what is wrong with it.
+[[nodiscard]] ExitStatus LoadDataFile(const std::filesystem::path& path, CMeasureData& data);
+/// Whether both paths name one file.
+[[nodiscard]] bool IsSameFile(const std::filesystem::path& one, const std::filesystem::path& other);
 
 } // namespace skeldon

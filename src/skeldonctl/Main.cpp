@@ -2,6 +2,7 @@
 #include "skeldonctl/FileCommands.h"
 #include "skeldonctl/Messages.h"
 #include "skeldonctl/RecorderCommands.h"
+#include "skeldonctl/picture/ChartCommand.h"
 #include "skeldonctl/platform/Streams.h"
 
 #include <exception>

@@ -21,12 +21,6 @@ void CColourSample::SetColour(ColourRef colour)
     AnnounceValue(this);
 }
 
-void CColourSample::SetLineHeight(int height)
-{
-    m_lineHeight = std::max(height, 1);
-    update();
-}
-
 QAccessible::Role CColourSample::AccessibleRole() const
 {
     return QAccessible::Graphic;
@@ -42,10 +36,12 @@ void CColourSample::paintEvent(QPaintEvent* /*event*/)
     if (!isEnabled())
         return;
     constexpr int Inset = 4;
-    const QRect bar(Inset, (height() - m_lineHeight) / 2, width() - 2 * Inset, m_lineHeight);
+    const int line = std::min(fontMetrics().height(), height() - 2 * Inset);
+    const QRect bar(Inset, (height() - line) / 2, width() - 2 * Inset, line);
     QPainter painter(this);
     painter.fillRect(rect(), Qt::white);
-    painter.fillRect(bar, ToColour(m_colour));
+    if (!bar.isEmpty())
+        painter.fillRect(bar, ToColour(m_colour));
 }
 
 } // namespace skeldon

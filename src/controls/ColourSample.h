@@ -7,7 +7,7 @@
 
 namespace skeldon {
 
-/// Shows a colour as a bar on white, as a line of the chart would look. Nothing while disabled.
+/// Shows a colour as a bar on white, as high as a line of text. Nothing while disabled.
 class CColourSample : public QWidget, public CAccessibleFace
 {
     Q_OBJECT
@@ -17,8 +17,6 @@ public:
 
     void SetColour(ColourRef colour);
     [[nodiscard]] ColourRef Colour() const { return m_colour; }
-    /// Height of the bar in logical pixels, at least 1.
-    void SetLineHeight(int height);
 
     [[nodiscard]] QAccessible::Role AccessibleRole() const override;
     /// The colour as "#RRGGBB".
@@ -29,7 +27,6 @@ protected:
 
 private:
     ColourRef m_colour = 0;
-    int m_lineHeight = 4;
 };
 
 } // namespace skeldon

@@ -7,6 +7,7 @@
 #include <QGuiApplication>
 #include <QPainter>
 #include <QScreen>
+#include <QSignalBlocker>
 #include <QTimerEvent>
 
 #include <algorithm>
@@ -71,6 +72,10 @@ void CProgressWindow::SetTextColor(ColourRef colour, bool repaint)
 void CProgressWindow::SetText(const QString& text, bool repaint)
 {
     m_text = text;
+    if (windowTitle() != text) {
+        const QSignalBlocker quiet(this);
+        setWindowTitle(text);
+    }
     if (repaint)
         Recompose();
 }

@@ -167,7 +167,8 @@ bool CSkinButton::focusNextPrevChild(bool next)
 {
     // Asked of a button that is just being switched off. It keeps its place: most commands switch
     // their own button off while they run, and the focus should be found where it was.
-    return !isEnabled() || QAbstractButton::focusNextPrevChild(next);
+    const bool isSwitchedOff = isVisible() && !isEnabled();
+    return isSwitchedOff || QAbstractButton::focusNextPrevChild(next);
 }
 
 void CSkinButton::DropStrip()

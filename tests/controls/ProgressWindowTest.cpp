@@ -350,6 +350,8 @@ void ProgressWindowTest::TitleChangesText()
     CProgressWindow strip(nullptr);
     strip.setWindowTitle(QStringLiteral("by title"));
     QCOMPARE(strip.GetText(), QStringLiteral("by title"));
+    strip.SetText(QStringLiteral("by text"), false);
+    QCOMPARE(strip.windowTitle(), QStringLiteral("by text"));
 }
 
 void ProgressWindowTest::TextIsCopiedToBuffer()

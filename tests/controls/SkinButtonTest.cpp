@@ -35,6 +35,7 @@ private slots:
     void PaintsFaceOfState_data();
     void PaintsFaceOfState();
     void KeepsFocusWhenSwitchedOff();
+    void GivesFocusAwayWhenHidden();
     void TakesFocusBackWhenSwitchedOnInActiveWindow();
     void TabLeavesDisabledButton();
     void ClickChangesNothingByItself();
@@ -133,6 +134,15 @@ void SkinButtonTest::KeepsFocusWhenSwitchedOff()
     Button().setEnabled(true);
     QTest::keyClick(&Button(), Qt::Key_Return);
     QCOMPARE(clicks.count(), 1);
+}
+
+void SkinButtonTest::GivesFocusAwayWhenHidden()
+{
+    Button().setFocus();
+    Button().setEnabled(false);
+    Button().hide();
+    QVERIFY(!Button().hasFocus());
+    QVERIFY(m_other->hasFocus());
 }
 
 void SkinButtonTest::TakesFocusBackWhenSwitchedOnInActiveWindow()

@@ -95,14 +95,21 @@ void SmallPicturesTest::FormBelowSeesMouse()
 void SmallPicturesTest::SampleIsBarOnWhite()
 {
     CColourSample sample;
-    sample.resize(60, 20);
     sample.SetColour(0xC50CC5);
-    sample.SetLineHeight(6);
-    const QImage painted = Painted(sample);
-    QCOMPARE(CountPixels(painted, QRect(4, 7, 52, 6), 0xFFC50CC5), 52 * 6);
-    QCOMPARE(CountPixels(painted, painted.rect(), 0xFFFFFFFF), 60 * 20 - 52 * 6);
-    sample.SetLineHeight(-3);
-    QCOMPARE(CountPixels(Painted(sample), painted.rect(), 0xFFC50CC5), 52);
+    QFont font;
+    font.setPixelSize(12);
+    sample.setFont(font);
+    const int line = QFontMetrics(font).height();
+    sample.resize(60, 40);
+    QImage painted = Painted(sample);
+    QCOMPARE(CountPixels(painted, QRect(4, (40 - line) / 2, 52, line), 0xFFC50CC5), 52 * line);
+    QCOMPARE(CountPixels(painted, painted.rect(), 0xFFFFFFFF), 60 * 40 - 52 * line);
+    sample.resize(60, 18); // the inset goes before the line
+    painted = Painted(sample);
+    QCOMPARE(CountPixels(painted, QRect(4, 4, 52, 10), 0xFFC50CC5), 52 * 10);
+    QCOMPARE(CountPixels(painted, painted.rect(), 0xFFFFFFFF), 60 * 18 - 52 * 10);
+    sample.resize(60, 6);
+    QCOMPARE(CountPixels(Painted(sample), sample.rect(), 0xFFFFFFFF), 60 * 6);
 }
 
 void SmallPicturesTest::DisabledSampleShowsNothing()

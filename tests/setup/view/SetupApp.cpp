@@ -1,0 +1,168 @@
+#include "setup/view/SetupApp.h"
+
+#include "controls/CableDialog.h"
+#include "controls/SkinButton.h"
+#include "controls/SpinButton.h"
+#include "resources/Translation.h"
+#include "setup/view/ProfileList.h"
+#include "setup/view/ReservedStartDialog.h"
+
+#include <QApplication>
+#include <QPushButton>
+#include <QTest>
+
+#include <sstream>
+
+namespace skeldon::test {
+
+namespace {
+
+/// The bytes of one line of the trace that the host sent.
+std::string HostBytes(const std::string& line)
+{
+    std::istringstream words(line);
+    std::string time;
+    std::string direction;
+    words >> time >> direction;
+    std::string bytes;
+    if (direction != ">")
+        return bytes;
+    for (std::string word; words >> word && word.front() != '|';)
+        bytes += static_cast<char>(std::stoi(word, nullptr, 16));
+    return bytes;
+}
+
+} // namespace
+
+bool CSetupFrame::IsConnected() const
+{
+    if (m_answers.empty())
+        return m_connected;
+    const bool answer = m_answers.front();
+    m_answers.pop_front();
+    return answer;
+}
+
+CSetupApp::CSetupApp(const QString& language)
+{
+    auto prompts = std::make_unique<CScriptedPrompts>();
+    m_prompts = prompts.get();
+    AppServices services;
+    services.settings =
+        std::make_unique<CSettings>(QString::fromStdString(m_wire.Path("settings.ini").string()));
+    services.prompts = std::move(prompts);
+    services.finder = std::make_unique<CTestCable>(m_port);
+    services.opener = QuickPortOpener(m_change);
+    services.clock = &m_clock;
+    services.language = language;
+    m_app = std::make_unique<CSkeldonApp>(std::move(services));
+    m_app->m_language = language;
+    m_app->m_viewBaseColour = 0xD8E9EC;
+    m_app->SetFrame(&m_frame);
+    InstallTranslation(m_app->IsJapanese());
+    m_onCable = [](CCableDialog& dialog) { dialog.m_ok->click(); };
+    m_onReserved = [](CReservedStartDialog& dialog) { dialog.m_ok->click(); };
+    QObject::connect(&m_watch, &QTimer::timeout, &m_watch, [this] { WatchDialogs(); });
+    m_watch.start(2);
+}
+
+CSetupApp::~CSetupApp()
+{
+    m_view.reset();
+    InstallTranslation(false);
+}
+
+void CSetupApp::Show()
+{
+    m_view = std::make_unique<CSetupView>();
+    m_view->State().m_store = CProfileStore(m_folder.Folders());
+    m_view->setFixedSize(m_view->SmallestSize());
+    m_view->OnInitialUpdate();
+    m_view->show();
+    m_view->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_view.get()));
+}
+
+void CSetupApp::Play(std::vector<std::string> options)
+{
+    m_port = m_wire.Path("korva").string();
+    const std::string trace = m_wire.Path("trace").string();
+    options.insert(options.end(), {"--link", m_port, "--trace", trace});
+    m_recorder.reset();
+    std::filesystem::remove(trace);
+    m_recorder = std::make_unique<CBackgroundProgram>(SIMULATOR, options);
+    QVERIFY(!m_recorder->Ready().empty());
+    m_traceRead = 0;
+    QVERIFY(m_app->Link().FindRecorderPort());
+    QVERIFY(m_app->Link().ReadStatus());
+    m_frame.m_connected = true;
+    m_view->OnUpdate(DocumentHint::Connection, 1);
+    QCOMPARE(Sent(), QByteArray("mp"));
+}
+
+void CSetupApp::Unplug()
+{
+    m_recorder.reset();
+    m_port.clear();
+}
+
+QByteArray CSetupApp::Sent()
+{
+    const std::string trace = ReadText(m_wire.Path("trace"));
+    std::istringstream lines(trace.substr(m_traceRead));
+    m_traceRead = trace.size();
+    std::string sent;
+    for (std::string line; std::getline(lines, line);)
+        sent += HostBytes(line);
+    return QByteArray::fromStdString(sent);
+}
+
+void CSetupApp::Click(SetupButton button)
+{
+    QTest::mouseClick(&Button(button), Qt::LeftButton);
+}
+
+void CSetupApp::ClickLine(int position)
+{
+    CProfileList& list = *Form().m_list;
+    list.scrollToItem(list.item(position));
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {},
+                      list.visualItemRect(list.item(position)).center());
+}
+
+void CSetupApp::Press(SetupStep step)
+{
+    QTest::mouseClick(&Form().Spin(step), Qt::LeftButton);
+}
+
+QStringList CSetupApp::Lines()
+{
+    QStringList lines;
+    for (int i = 0; i < Form().m_list->count(); ++i)
+        lines << Form().m_list->item(i)->text();
+    return lines;
+}
+
+void CSetupApp::Load(const CMeasureCondition& condition)
+{
+    State().TakeEdited(condition);
+    Form().ShowConditions(condition);
+    View().RefreshControls();
+}
+
+void CSetupApp::WatchDialogs()
+{
+    QWidget* const dialog = QApplication::activeModalWidget();
+    if (dialog == m_seen)
+        return;
+    m_seen = dialog;
+    if (auto* const cable = qobject_cast<CCableDialog*>(dialog)) {
+        ++m_cableDialogs;
+        m_onCable(*cable);
+    } else if (auto* const reserved = qobject_cast<CReservedStartDialog*>(dialog)) {
+        ++m_reservedDialogs;
+        m_onReserved(*reserved);
+    }
+}
+
+} // namespace skeldon::test

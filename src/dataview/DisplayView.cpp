@@ -26,6 +26,9 @@ CDisplayView::CDisplayView(QWidget* parent)
     MakeButtons();
     m_list->hide();
     m_chart->hide();
+    // The splitter's pointer must not last on what the mouse enters from the splitter.
+    for (QWidget* const child : findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
+        child->setCursor(Qt::ArrowCursor);
     // The chart hears of the current line at once, the view later.
     connect(m_list, &CMeasuredList::MeasureGraph, m_chart, &CChartWnd::OnMeasureGraph);
     connect(m_list, &CMeasuredList::MeasureGraph, this, &CDisplayView::OnMeasureGraph,

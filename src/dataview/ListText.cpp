@@ -21,11 +21,14 @@ QString WithBlank(const CellBuffer& buffer, char* end)
     return QString::fromLatin1(buffer.data(), end - buffer.data());
 }
 
-template <int Decimals>
+/// A number filled up with blanks before it to `Width` places.
+template <int Width, int Decimals>
 QString Fixed(double value)
 {
     CellBuffer buffer;
-    return WithBlank(buffer, WriteFixed<Decimals>(buffer.data(), value));
+    char* const end = WriteFixed<Decimals>(buffer.data(), value);
+    return QString::fromLatin1(buffer.data(), end - buffer.data()).rightJustified(Width) +
+           QLatin1Char(' ');
 }
 
 /// A number of several digits with zeros before it; negative ones, which no date has, stand plain.
@@ -118,7 +121,7 @@ QString CListText::CellText(const CMeasureData& data, std::size_t row, ListColum
     case ListColumn::Resultant:
         return Acceleration(record.m_resultant);
     case ListColumn::Temperature:
-        return data.m_hasTemperature ? Fixed<1>(record.m_temperature) : QString();
+        return data.m_hasTemperature ? Fixed<3, 1>(record.m_temperature) : QString();
     case ListColumn::Humidity:
         return data.m_hasHumidity ? Whole(record.m_humidity) : QString();
     case ListColumn::Count:
@@ -131,13 +134,13 @@ QString CListText::Acceleration(double value) const
 {
     switch (m_unit) {
     case DispUnit::MetresPerSecondSquared:
-        return Fixed<4>(value * MetresPerG);
+        return Fixed<4, 4>(value * MetresPerG);
     case DispUnit::Gal:
-        return Fixed<2>(value * GalPerG);
+        return Fixed<6, 2>(value * GalPerG);
     case DispUnit::G:
         break;
     }
-    return Fixed<3>(value);
+    return Fixed<3, 3>(value);
 }
 
 } // namespace skeldon

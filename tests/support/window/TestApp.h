@@ -77,7 +77,7 @@ public:
     [[nodiscard]] bool IsConnected() const override { return m_connected; }
     [[nodiscard]] ViewIndex CurrentView() const override { return m_view; }
     void SwitchView(ViewIndex view) override { m_view = view; }
-    [[nodiscard]] bool IsPlacementRestored() const override { return false; }
+    [[nodiscard]] bool IsPlacementRestored() const override { return m_placementRestored; }
     void EnableSystemClose(bool enabled) override { m_closeEnabled = enabled; }
     void CloseFrame() override { m_closed = true; }
     [[nodiscard]] QWidget* Window() override { return m_window; }
@@ -86,6 +86,7 @@ public:
     QString m_status;
     QString m_caption;
     bool m_connected = false;
+    bool m_placementRestored = false;
     bool m_closeEnabled = true;
     bool m_closed = false;
     ViewIndex m_view = ViewIndex::Display;

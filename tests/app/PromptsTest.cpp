@@ -2,6 +2,7 @@
 #include "app/DataText.h"
 #include "app/DesktopPrompts.h"
 #include "app/FileChoice.h"
+#include "app/WaitCursor.h"
 #include "resources/Translation.h"
 #include "support/window/TestApp.h"
 
@@ -206,6 +207,28 @@ private slots:
         const Answer answer = m_desktop.ShowBox(nullptr, kind, u"?"_s);
         QCOMPARE(visitor.m_visits, 1);
         QTEST(answer, "answer");
+    }
+
+    void ABoxIsNamedForTheProgramAndSetsTheWaitCursorAside()
+    {
+        QString title;
+        bool wasWaiting = true;
+        CBoxVisitor visitor([&](QMessageBox& box) {
+            title = box.windowTitle();
+            wasWaiting = QApplication::overrideCursor() != nullptr;
+            QTest::keyClick(&box, Qt::Key_Escape);
+        });
+        {
+            const CWaitCursor outer;
+            const CWaitCursor inner;
+            m_desktop.ShowBox(nullptr, BoxKind::Warning, u"?"_s);
+            QVERIFY(QApplication::overrideCursor() != nullptr);
+            QCOMPARE(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+        }
+        QVERIFY(QApplication::overrideCursor() == nullptr);
+        QCOMPARE(visitor.m_visits, 1);
+        QCOMPARE(title, u"SKELDON Light"_s);
+        QVERIFY(!wasWaiting);
     }
 
     // --- file dialogs ---

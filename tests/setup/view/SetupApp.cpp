@@ -97,7 +97,7 @@ void CSetupApp::Play(std::vector<std::string> options)
     QVERIFY(m_app->Link().ReadStatus());
     m_frame.m_connected = true;
     m_view->OnUpdate(DocumentHint::Connection, 1);
-    QCOMPARE(Sent(), QByteArray("mp"));
+    QCOMPARE(Sent("mp"), QByteArray("mp"));
 }
 
 void CSetupApp::Unplug()
@@ -106,15 +106,22 @@ void CSetupApp::Unplug()
     m_port.clear();
 }
 
-QByteArray CSetupApp::Sent()
+QByteArray CSetupApp::Sent(const QByteArray& expected)
 {
-    const std::string trace = ReadText(m_wire.Path("trace"));
-    std::istringstream lines(trace.substr(m_traceRead));
-    m_traceRead = trace.size();
-    std::string sent;
-    for (std::string line; std::getline(lines, line);)
-        sent += HostBytes(line);
-    return QByteArray::fromStdString(sent);
+    std::size_t end = 0;
+    QByteArray sent;
+    // The trace comes a little behind the wire.
+    [[maybe_unused]] const bool isThere = QTest::qWaitFor([&] {
+        const std::string trace = ReadText(m_wire.Path("trace"));
+        end = trace.rfind('\n') + 1;
+        sent.clear();
+        std::istringstream lines(trace.substr(m_traceRead, end - m_traceRead));
+        for (std::string line; std::getline(lines, line);)
+            sent += QByteArray::fromStdString(HostBytes(line));
+        return sent.size() >= expected.size();
+    });
+    m_traceRead = end;
+    return sent;
 }
 
 void CSetupApp::Click(SetupButton button)

@@ -66,8 +66,8 @@ public:
     /// Plays a recorder on a pseudo terminal and lets the view know.
     void Play(std::vector<std::string> options);
     /// What the host sent since the recorder was played or this was asked, as the recorder's
-    /// trace has it.
-    [[nodiscard]] QByteArray Sent();
+    /// trace has it. As much as is expected is waited for.
+    [[nodiscard]] QByteArray Sent(const QByteArray& expected = {});
     /// The recorder is ended and its cable pulled.
     void Unplug();
 

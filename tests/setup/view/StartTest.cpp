@@ -103,13 +103,13 @@ private slots:
     void SnapshotOfTheConditionsIsSent();
 
 private:
-    /// One start; gives what was sent.
+    /// One start; gives what was sent, and waits for `wire`.
     static QByteArray Start(CSetupApp& app, CommandId command, Answer answer,
-                            const QString& question);
+                            const QString& question, const QByteArray& wire);
 };
 
 QByteArray StartTest::Start(CSetupApp& app, CommandId command, Answer answer,
-                            const QString& question)
+                            const QString& question, const QByteArray& wire)
 {
     app.m_prompts->m_shown.clear();
     app.m_prompts->m_answers = {answer};
@@ -119,7 +119,7 @@ QByteArray StartTest::Start(CSetupApp& app, CommandId command, Answer answer,
         return "boxes: " + app.m_prompts->Boxes().join('/').toUtf8();
     if (app.m_cableDialogs != 1)
         return "no dialog about the cable";
-    return app.Sent();
+    return app.Sent(wire);
 }
 
 void StartTest::EveryRecorderGetsItsCommands_data()
@@ -143,24 +143,24 @@ void StartTest::EveryRecorderGetsItsCommands()
 
     // Empty.
     app.Play(Options(fitting, {"--lines", "0"}));
-    QCOMPARE(Start(app, CommandId::StartPrompt, Answer::Yes, Sure), cleared);
-    QCOMPARE(Start(app, CommandId::StartReserved, Answer::Yes, Sure), reserved);
+    QCOMPARE(Start(app, CommandId::StartPrompt, Answer::Yes, Sure, cleared), cleared);
+    QCOMPARE(Start(app, CommandId::StartReserved, Answer::Yes, Sure, reserved), reserved);
 
     // Partly filled. What the last status told stays true until the next one.
     app.Play(Options(fitting, {"--lines", "40"}));
-    QCOMPARE(Start(app, CommandId::StartPrompt, Answer::No, WantToClear), kept);
+    QCOMPARE(Start(app, CommandId::StartPrompt, Answer::No, WantToClear, kept), kept);
     QVERIFY(app.m_app->Link().ReadStatus());
     QCOMPARE(app.m_app->Link().m_count, 40);
-    QCOMPARE(app.Sent(), QByteArray("mp"));
-    QCOMPARE(Start(app, CommandId::StartPrompt, Answer::Yes, WantToClear), cleared);
-    QCOMPARE(Start(app, CommandId::StartReserved, Answer::Yes, SureToClear), reserved);
+    QCOMPARE(app.Sent("mp"), QByteArray("mp"));
+    QCOMPARE(Start(app, CommandId::StartPrompt, Answer::Yes, WantToClear, cleared), cleared);
+    QCOMPARE(Start(app, CommandId::StartReserved, Answer::Yes, SureToClear, reserved), reserved);
     QVERIFY(app.m_app->Link().ReadStatus());
     QCOMPARE(app.m_app->Link().m_count, 0);
 
     // Full.
     app.Play(Options(fitting, {"--lines", "40", "--capacity", "40"}));
-    QCOMPARE(Start(app, CommandId::StartPrompt, Answer::Yes, SureToClear), cleared);
-    QCOMPARE(Start(app, CommandId::StartReserved, Answer::Yes, SureToClear), reserved);
+    QCOMPARE(Start(app, CommandId::StartPrompt, Answer::Yes, SureToClear, cleared), cleared);
+    QCOMPARE(Start(app, CommandId::StartReserved, Answer::Yes, SureToClear, reserved), reserved);
 }
 
 void StartTest::RefusedStartSendsNothing_data()
@@ -199,9 +199,11 @@ void StartTest::StartOptionIsToldAndSent()
     app.Load(condition);
     app.Play(Options(Find("10"), {}));
     QCOMPARE(Start(app, CommandId::StartPrompt, Answer::Yes,
-                   Sure + QStringLiteral("\n\n[ Start measuring in 5 seconds ]")),
+                   Sure + QStringLiteral("\n\n[ Start measuring in 5 seconds ]"),
+                   QByteArray("mi3jAd99k1N07w05z1ms2031 03/04 05:06:07t")),
              QByteArray("mi3jAd99k1N07w05z1ms2031 03/04 05:06:07t"));
-    QCOMPARE(Start(app, CommandId::StartReserved, Answer::Yes, Sure),
+    QCOMPARE(Start(app, CommandId::StartReserved, Answer::Yes, Sure,
+                   QByteArray("mi3jAd99k1N07w05z1ms2031 03/04 05:06:07tml03/04 05:08")),
              QByteArray("mi3jAd99k1N07w05z1ms2031 03/04 05:06:07tml03/04 05:08"));
 }
 
@@ -217,7 +219,8 @@ void StartTest::SnapshotOfTheConditionsIsSent()
     app.m_prompts->m_answers = {Answer::Yes};
     app.Command(CommandId::StartPrompt);
     QCOMPARE(app.State().m_current.Threshold, 1);
-    QCOMPARE(app.Sent(), QByteArray("mi3jAd99k1N07w00z1ms2031 03/04 05:06:07t"));
+    QCOMPARE(app.Sent("mi3jAd99k1N07w00z1ms2031 03/04 05:06:07t"),
+             QByteArray("mi3jAd99k1N07w00z1ms2031 03/04 05:06:07t"));
 }
 
 QTEST_MAIN(StartTest)

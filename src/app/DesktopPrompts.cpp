@@ -7,6 +7,7 @@
 #include <QDesktopServices>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QTimer>
 #include <QUrl>
 
 #include <vector>
@@ -125,6 +126,14 @@ void CDesktopPrompts::OpenPage(const QUrl& page)
 void CDesktopPrompts::Beep()
 {
     QApplication::beep();
+}
+
+/// A desktop has one beep: two of them in a row are the other one.
+void CDesktopPrompts::BeepFailure()
+{
+    constexpr int PauseMs = 200;
+    QApplication::beep();
+    QTimer::singleShot(PauseMs, qApp, &QApplication::beep);
 }
 
 } // namespace skeldon

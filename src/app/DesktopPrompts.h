@@ -13,6 +13,7 @@ public:
     std::optional<QString> AskSavePath(QWidget* parent, const FileQuestion& question) override;
     void OpenPage(const QUrl& page) override;
     void Beep() override;
+    void BeepFailure() override;
 };
 
 } // namespace skeldon

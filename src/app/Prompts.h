@@ -54,6 +54,8 @@ public:
     virtual void OpenPage(const QUrl& page) = 0;
     /// The information beep.
     virtual void Beep() = 0;
+    /// The exclamation beep, for what can not be done and is not told otherwise.
+    virtual void BeepFailure() { Beep(); }
 };
 
 } // namespace skeldon

@@ -38,6 +38,7 @@ public:
     std::optional<QString> AskSavePath(QWidget* parent, const FileQuestion& question) override;
     void OpenPage(const QUrl& page) override { m_pages.push_back(page); }
     void Beep() override { ++m_beeps; }
+    void BeepFailure() override { ++m_failureBeeps; }
 
     /// Texts of the boxes so far.
     [[nodiscard]] QStringList Boxes() const;
@@ -48,6 +49,7 @@ public:
     std::deque<std::optional<QString>> m_paths;
     std::function<void(const Prompt&)> m_whileShown; ///< what happens while a prompt stands
     int m_beeps = 0;
+    int m_failureBeeps = 0;
 
 private:
     std::optional<QString> NextPath();

@@ -5,8 +5,8 @@
 namespace skeldon {
 
 /// Sees all that passes between the program and the recorder; the monitor window is one.
-/// `ReportCommand` and `ReportBytes` are called by whichever thread moves the bytes, the other
-/// operations by the user interface's thread alone.
+/// `ReportCommand`, `ReportBytes` and `SetEnabled` are called by whichever thread talks with the
+/// recorder, `ShowMonitor` by the user interface's thread alone.
 class CTrafficSink
 {
 public:

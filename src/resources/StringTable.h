@@ -483,6 +483,7 @@ enum class StringId
     NameBarButton,
     NameElapsed,
     NameTotal,
+    OnlineWaiting,
 
     // Wizard and print dialog: what the system's own dialogs would bring.
     WizardBack,

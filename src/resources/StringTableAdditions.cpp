@@ -85,6 +85,8 @@ constexpr StringEntry Entries[] = {
      QT_TRANSLATE_NOOP3("StringTable", "Line chart or bar chart", "NameBarButton")},
     {StringId::NameElapsed, QT_TRANSLATE_NOOP3("StringTable", "Elapsed seconds", "NameElapsed")},
     {StringId::NameTotal, QT_TRANSLATE_NOOP3("StringTable", "Seconds in all", "NameTotal")},
+    {StringId::OnlineWaiting,
+     QT_TRANSLATE_NOOP3("StringTable", "Waiting for KORVA...", "OnlineWaiting")},
 
     // Wizard and print dialog: what the system's own dialogs would bring.
     {StringId::WizardBack, QT_TRANSLATE_NOOP3("StringTable", "< &Back", "WizardBack")},

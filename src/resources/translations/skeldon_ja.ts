@@ -2200,6 +2200,11 @@ Failed to write.
         <translation>合計秒数</translation>
     </message>
     <message>
+        <source>Waiting for KORVA...</source>
+        <comment>OnlineWaiting</comment>
+        <translation>KORVAを待っています...</translation>
+    </message>
+    <message>
         <source>&lt; &amp;Back</source>
         <comment>WizardBack</comment>
         <translation>&lt; 戻る(&amp;B)</translation>

@@ -13,5 +13,10 @@ namespace skeldon::bench {
 [[nodiscard]] Work AddAnalysisOfDownload();
 [[nodiscard]] Work AddSignature();
 [[nodiscard]] Work AddDownload();
+[[nodiscard]] Work AddChartWhole();
+[[nodiscard]] Work AddChartNoise();
+[[nodiscard]] Work AddChartPart();
+[[nodiscard]] Work AddChartBars();
+[[nodiscard]] Work AddChartIndex();
 
 } // namespace skeldon::bench

@@ -9,6 +9,8 @@
 #include "files/CsvFile.h"
 #include "files/DataFile.h"
 
+#include <QApplication>
+
 #include <algorithm>
 #include <array>
 #include <cstdio>
@@ -121,7 +123,7 @@ void PrintMemory()
 /// The rows of the table that are asked for; all where none is named.
 std::vector<Work> AddWorks(const std::vector<std::string>& names)
 {
-    constexpr std::array<std::pair<std::string_view, Work (*)()>, 8> Makers{{
+    constexpr std::array<std::pair<std::string_view, Work (*)()>, 13> Makers{{
         {"load", AddLoad},
         {"save", AddSave},
         {"csv", AddCsv},
@@ -130,6 +132,11 @@ std::vector<Work> AddWorks(const std::vector<std::string>& names)
         {"analysis-download", AddAnalysisOfDownload},
         {"signature", AddSignature},
         {"download", AddDownload},
+        {"chart-whole", AddChartWhole},
+        {"chart-noise", AddChartNoise},
+        {"chart-part", AddChartPart},
+        {"chart-bars", AddChartBars},
+        {"chart-index", AddChartIndex},
     }};
     std::vector<Work> works;
     for (const auto& [name, make] : Makers) {
@@ -146,6 +153,8 @@ int main(int argc, char** argv)
     const int rounds = argc > 1 ? std::atoi(argv[1]) : DefaultRounds;
     const std::vector<std::string> names(argv + std::min(argc, 2), argv + argc);
     int count = 1;
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(count, argv);
     benchmark::Initialize(&count, argv);
     const std::vector<Work> works = AddWorks(names);
     const Samples samples = RunRounds(rounds);

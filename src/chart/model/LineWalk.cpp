@@ -69,8 +69,8 @@ int CLineWalk::ColumnEnd(int line)
     if (line >= m_runEnd)
         m_runEnd = m_index.RunEnd(line);
     const std::int64_t column = DeviceColumn(m_index.Time(line));
-    // At the limits a column may be a far one that only counts as this one.
-    if (column <= ShortMin || column >= ShortMax)
+    // Lines beyond 16 bits are never of one column.
+    if (!FitsShort(column))
         return line;
     const int end = std::min(m_runEnd, m_view.lastLine + 1);
     return m_index.FirstNot(line + 1, end, [&](std::int64_t time) {

@@ -106,7 +106,7 @@ void CViewApp::GetData(int count)
         SIMULATOR, std::vector<std::string>{"--lines", std::to_string(count), "--link", port});
     QVERIFY2(!m_recorder->Ready().empty(), "the simulator did not start");
     m_test.m_port = port;
-    m_test.m_frame.m_connected = true;
+    m_test.m_frame.m_connected = App().Link().FindRecorderPort();
     m_view->OnCommand(CommandId::GetData);
     Settle();
 }

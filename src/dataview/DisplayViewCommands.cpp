@@ -6,6 +6,7 @@
 #include "controls/SkinButton.h"
 #include "dataview/ButtonForms.h"
 #include "dataview/MeasuredList.h"
+#include "setup/view/OnlineConfigDialog.h"
 
 #include <algorithm>
 
@@ -143,6 +144,8 @@ void CDisplayView::OnCommand(CommandId command)
         return CopyCsv();
     case CommandId::GetData:
         return GetData();
+    case CommandId::OnlineConfiguration:
+        return RunOnlineConfig(this);
     case CommandId::SelectArea:
         return ToggleZoomIn();
     case CommandId::UnitG:

@@ -5,6 +5,7 @@
 #include "dataview/MainFrame.h"
 #include "recorder/RecorderPort.h"
 #include "resources/Translation.h"
+#include "setup/view/SettingDialog.h"
 
 #include <QApplication>
 #include <QLocale>
@@ -34,6 +35,7 @@ int main(int argc, char** argv)
         frame = std::make_unique<CMainFrame>();
         return frame.get();
     };
+    services.showSettings = RunSettings;
     CSkeldonApp skeldon(std::move(services));
     if (!skeldon.InitInstance(QApplication::arguments().mid(1)))
         return 0;

@@ -28,6 +28,15 @@ constexpr int IntervalFallback = 0;
 /// Between the two columns of boxes.
 constexpr int ColumnGap = 24;
 
+/// Shows a value in a box and makes it the present entry of the list, where it is one.
+template <typename Box, typename Value>
+void Show(Box& box, Value value)
+{
+    box.SetValue(value);
+    box.setCurrentIndex(box.findText(box.currentText()));
+    box.SetValue(value); // a box without a present entry is empty
+}
+
 } // namespace
 
 CConditionOptionDialog::CConditionOptionDialog(const CMeasureCondition& condition,
@@ -75,13 +84,13 @@ void CConditionOptionDialog::ShowConditions()
         OptionRow(m_condition.GetSampling(), m_sampling->count(), SamplingFallback));
     m_interval->setCurrentIndex(
         OptionRow(m_condition.GetInterval(), m_interval->count(), IntervalFallback));
-    m_threshold->SetValue(m_condition.Threshold * GPerTenth);
+    Show(*m_threshold, m_condition.Threshold * GPerTenth);
     m_overThreshold->setChecked(m_condition.OverThreshold);
     m_endless->setChecked(m_condition.Endless);
     m_buzzer->setChecked(m_condition.Buzzer);
-    m_hostNumber->SetValue(static_cast<std::uint32_t>(m_condition.SerialNo));
-    m_startOption->SetValue(static_cast<std::uint32_t>(m_condition.StartOpt));
-    m_hazard->SetValue(m_condition.Hazard * GPerTenth);
+    Show(*m_hostNumber, static_cast<std::uint32_t>(m_condition.SerialNo));
+    Show(*m_startOption, static_cast<std::uint32_t>(m_condition.StartOpt));
+    Show(*m_hazard, m_condition.Hazard * GPerTenth);
 }
 
 void CConditionOptionDialog::LayOut()
@@ -108,6 +117,11 @@ void CConditionOptionDialog::LayOut()
     grid->addWidget(m_buzzer, 4, Right + 1);
     grid->setColumnMinimumWidth(Right - 1, ColumnGap);
 
+    // Down one column, then down the other.
+    QWidget* const order[] = {m_sampling,    m_interval, m_threshold, m_overThreshold, m_hostNumber,
+                              m_startOption, m_hazard,   m_endless,   m_buzzer};
+    for (std::size_t i = 1; i < std::size(order); ++i)
+        setTabOrder(order[i - 1], order[i]);
     auto* const buttons = new QDialogButtonBox(this);
     buttons->addButton(Text(StringId::ButtonOk), QDialogButtonBox::AcceptRole);
     buttons->addButton(Text(StringId::ButtonCancel), QDialogButtonBox::RejectRole);

@@ -75,6 +75,8 @@ void COnlineConfigDialog::PostValue()
 
 void COnlineConfigDialog::ShowValue()
 {
+    // The list opens at the entry of that value, where there is one.
+    m_seconds->setCurrentIndex(OnlineOptionOf(m_value));
     m_seconds->SetValue(static_cast<std::uint32_t>(m_value));
     m_seconds->m_edit->selectAll();
 }

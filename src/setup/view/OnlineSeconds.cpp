@@ -50,4 +50,11 @@ int OnlineSecondsOf(const QString& option)
     return option.left(end - option.begin()).toInt();
 }
 
+int OnlineOptionOf(int seconds)
+{
+    const QStringList options = OnlineSecondsOptions();
+    const auto found = std::ranges::find(options, seconds, OnlineSecondsOf);
+    return found != options.end() ? static_cast<int>(found - options.begin()) : -1;
+}
+
 } // namespace skeldon

@@ -21,5 +21,7 @@ void WriteOnlineSeconds(CSettings& settings, int seconds);
 [[nodiscard]] QStringList OnlineSecondsOptions();
 /// The number at the start of an entry of that list.
 [[nodiscard]] int OnlineSecondsOf(const QString& option);
+/// The entry with that number, or -1.
+[[nodiscard]] int OnlineOptionOf(int seconds);
 
 } // namespace skeldon

@@ -17,7 +17,7 @@ namespace skeldon {
 namespace {
 
 /// Room for the longest description, in either language.
-constexpr QSize PageSize(540, 300);
+constexpr QSize PageSize(540, 264);
 
 } // namespace
 

@@ -11,6 +11,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <QStyleOptionHeader>
 
 #include <algorithm>
 #include <limits>
@@ -36,6 +37,24 @@ QString WidthKey(int column)
     return QStringLiteral("ClmnWidth%1").arg(column);
 }
 
+/// Titles that are cut show so: the toolkit's header measures them against its own whole width.
+class CListHeader final : public QHeaderView
+{
+public:
+    explicit CListHeader(QWidget* parent)
+        : QHeaderView(Qt::Horizontal, parent)
+    {}
+
+protected:
+    void initStyleOptionForIndex(QStyleOptionHeader* option, int logicalIndex) const override
+    {
+        QHeaderView::initStyleOptionForIndex(option, logicalIndex);
+        const int margin = style()->pixelMetric(QStyle::PM_HeaderMargin, option, this);
+        option->text = option->fontMetrics.elidedText(option->text, Qt::ElideRight,
+                                                      sectionSize(logicalIndex) - 2 * margin);
+    }
+};
+
 } // namespace
 
 CMeasuredList::CMeasuredList(QWidget* parent)
@@ -51,6 +70,7 @@ CMeasuredList::CMeasuredList(QWidget* parent)
                    ? m_text.CellText(*m_pData, row, column)
                    : QString();
     });
+    setHorizontalHeader(new CListHeader(this));
     setModel(m_model);
     setSelectionBehavior(SelectRows);
     setSelectionMode(ExtendedSelection);
@@ -68,7 +88,6 @@ CMeasuredList::CMeasuredList(QWidget* parent)
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     horizontalHeader()->setSectionsClickable(false);
     horizontalHeader()->setHighlightSections(false);
-    horizontalHeader()->setTextElideMode(Qt::ElideRight);
     // A million cells must not be asked for their texts to find the width of one.
     horizontalHeader()->setResizeContentsPrecision(0);
 }

@@ -1,5 +1,6 @@
 #include "ViewApp.h"
 
+#include <QHeaderView>
 #include <QScrollBar>
 #include <QTest>
 
@@ -235,6 +236,27 @@ private slots:
         }
         for (int y = 2 * RowHeight; y < rows.height(); ++y)
             QCOMPARE(rows.pixelColor(1, y), White);
+    }
+
+    void TitlesThatAreTooLongAreCutAtTheirEnd()
+    {
+        CViewApp app;
+        ShowLines(app, 1);
+        QHeaderView& header = *app.List().horizontalHeader();
+        const auto title = [&](int width) {
+            app.List().setColumnWidth(7, width);
+            app.Settle();
+            return header.grab().toImage().copy(485, 0, width, header.height());
+        };
+        const int whole = header.fontMetrics().horizontalAdvance(QStringLiteral("Temperature (C)"));
+        QVERIFY(whole > 65);
+        // The margins stay free of letters on both sides.
+        const QImage cut = title(65);
+        const QColor back = cut.pixelColor(3, 2);
+        for (int y = 3; y < cut.height() - 3; ++y) {
+            QVERIFY(qAbs(cut.pixelColor(1, y).lightness() - back.lightness()) < 40);
+            QVERIFY(qAbs(cut.pixelColor(62, y).lightness() - back.lightness()) < 40);
+        }
     }
 
     void EmptyListIsWhite()

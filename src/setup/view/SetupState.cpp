@@ -115,6 +115,9 @@ HostNumberOffer CSetupState::OfferHostNumber(int shown) const
 
 std::error_code CSetupState::Add()
 {
+    // Words for folders are no names, even though a file could be called so.
+    if (m_strName == QLatin1String(".") || m_strName == QLatin1String(".."))
+        return std::make_error_code(std::errc::invalid_argument);
     CMeasureCondition copy = m_current;
     copy.ProfileName = NameBytes(m_strName);
     if (const std::error_code error = copy.Save())

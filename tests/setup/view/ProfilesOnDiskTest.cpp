@@ -127,6 +127,7 @@ void ProfilesOnDiskTest::AddThatFailsChangesNothing_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<int>("number");
     QTest::newRow("separator") << "../../outside" << 3;
+    QTest::newRow("folder above") << ".." << 3;
     QTest::newRow("root") << "/tmp/outside" << 3;
     QTest::newRow("zero byte") << QString(QChar(u'\0')) << 3;
     QTest::newRow("number too high") << "box" << 100;

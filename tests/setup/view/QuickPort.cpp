@@ -31,15 +31,10 @@ public:
     {
         if (!m_awaitsReply && IsSilent())
             return {};
-        const Transfer read = m_port->Read(buffer);
+        Transfer read = m_port->Read(buffer);
         m_awaitsReply = m_awaitsReply && read.count == 0;
-        if (m_change) {
-            const auto bytes = buffer.first(read.count);
-            const auto found = std::search(bytes.begin(), bytes.end(), m_change->from.begin(),
-                                           m_change->from.end());
-            if (found != bytes.end())
-                std::copy(m_change->to.begin(), m_change->to.end(), found);
-        }
+        if (m_change)
+            Change(buffer, read.count);
         return read;
     }
     Transfer Write(std::string_view bytes) override
@@ -61,6 +56,19 @@ private:
             std::this_thread::sleep_for(1ms);
         }
         return true;
+    }
+
+    void Change(std::span<char> buffer, std::size_t& count) const
+    {
+        std::string bytes(buffer.data(), count);
+        const std::size_t at = bytes.find(m_change->from);
+        if (at == std::string::npos)
+            return;
+        bytes.replace(at, m_change->from.size(), m_change->to);
+        if (bytes.size() > buffer.size())
+            return;
+        std::copy(bytes.begin(), bytes.end(), buffer.begin());
+        count = bytes.size();
     }
 
     std::unique_ptr<CSerialPort> m_port;

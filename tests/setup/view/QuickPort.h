@@ -21,7 +21,7 @@ public:
     std::atomic<CalendarSeconds> m_now = 0; ///< 0 for the real time
 };
 
-/// What a recorder's bytes are changed to on their way; of equal length.
+/// What a recorder's bytes are changed to on their way.
 struct WireChange
 {
     std::string from;

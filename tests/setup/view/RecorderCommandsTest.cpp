@@ -13,7 +13,7 @@ using skeldon::test::CSetupApp;
 
 namespace {
 
-/// Has the recorder's next report tell a start option of two letters.
+/// Has the recorder's next report tell that start option.
 void GiveStartOption(CSetupApp& app, const std::string& option)
 {
     CMeasureCondition condition;
@@ -102,7 +102,8 @@ void RecorderCommandsTest::IllegalStartOptionBlinksAndIsRepaired()
     CSetupApp app;
     app.Show();
     app.Play({"--type", "10"});
-    GiveStartOption(app, "-5");
+    // More than any recorder should tell: the number has no sign on the wire.
+    GiveStartOption(app, "4294967291");
     int reds = 0;
     int blanks = 0;
     bool wasBlank = true;

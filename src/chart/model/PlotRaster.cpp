@@ -34,6 +34,19 @@ void CPlotRaster::Reset(const ChartRect& area, std::uint32_t background)
     m_area.bottom = std::max(area.bottom, area.top);
     const auto columns = static_cast<std::size_t>(m_area.right - m_area.left);
     m_pixels.assign(columns * static_cast<std::size_t>(Height()), background);
+    m_corner = m_pixels.data();
+    m_columnStep = Height();
+    m_rowStep = 1;
+}
+
+void CPlotRaster::DrawOn(const ChartRect& area, std::uint32_t* image, std::size_t stride)
+{
+    m_area = area;
+    m_area.right = std::max(area.right, area.left);
+    m_area.bottom = std::max(area.bottom, area.top);
+    m_columnStep = 1;
+    m_rowStep = static_cast<std::ptrdiff_t>(stride);
+    m_corner = image + m_area.top * m_rowStep + m_area.left;
 }
 
 void CPlotRaster::Fill(const ChartRect& rect, std::uint32_t colour)
@@ -50,11 +63,16 @@ void CPlotRaster::Block(std::int64_t left, std::int64_t right, std::int64_t top,
     const std::int64_t end = std::min<std::int64_t>(bottom + 1, m_area.bottom);
     if (begin >= end)
         return;
+    const std::int64_t rows = end - begin;
     for (std::int64_t x = first; x <= last; ++x) {
-        const auto column = static_cast<std::size_t>(x - m_area.left);
-        std::uint32_t* const pixels =
-            m_pixels.data() + column * static_cast<std::size_t>(Height()) - m_area.top;
-        std::fill(pixels + begin, pixels + end, colour);
+        std::uint32_t* pixel =
+            m_corner + (x - m_area.left) * m_columnStep + (begin - m_area.top) * m_rowStep;
+        if (m_rowStep == 1) {
+            std::fill_n(pixel, rows, colour);
+            continue;
+        }
+        for (std::int64_t row = 0; row < rows; ++row, pixel += m_rowStep)
+            *pixel = colour;
     }
 }
 
@@ -83,21 +101,30 @@ void CPlotRaster::Steep(std::int64_t x1, std::int64_t y1, std::int64_t x2, std::
     const std::int64_t dx = x2 - x1;
     const std::int64_t rows = std::abs(y2 - y1);
     const int direction = y2 >= y1 ? 1 : -1;
-    // Rows behind y1, in the line's direction, up to which column x goes.
-    const auto endOf = [&](std::int64_t x) {
-        if (dx == 0)
-            return rows;
-        return std::min(rows, FloorDivide((2 * (x - x1) + 1) * rows - 1, 2 * dx));
-    };
-    const std::int64_t first = std::max(x1, std::int64_t{m_area.left} - Behind(width));
-    const std::int64_t last = std::min(x2, std::int64_t{m_area.right} - 1 + Before(width));
-    for (std::int64_t x = first; x <= last; ++x) {
-        const std::int64_t begin = x == x1 ? 0 : endOf(x - 1) + 1;
-        const std::int64_t end = endOf(x);
+    const auto piece = [&](std::int64_t x, std::int64_t begin, std::int64_t end) {
         const std::int64_t a = y1 + direction * begin;
         const std::int64_t b = y1 + direction * end;
         if (begin <= end)
             Block(x - Before(width), x + Behind(width), std::min(a, b), std::max(a, b), colour);
+    };
+    // Nearly all lines lie in one column or two.
+    if (dx == 0)
+        return piece(x1, 0, rows);
+    if (dx == 1) {
+        piece(x1, 0, (rows - 1) / 2);
+        return piece(x2, (rows - 1) / 2 + 1, rows);
+    }
+    // Rows behind y1, in the line's direction, up to which column x goes.
+    const auto endOf = [&](std::int64_t x) {
+        return std::min(rows, FloorDivide((2 * (x - x1) + 1) * rows - 1, 2 * dx));
+    };
+    const std::int64_t first = std::max(x1, std::int64_t{m_area.left} - Behind(width));
+    const std::int64_t last = std::min(x2, std::int64_t{m_area.right} - 1 + Before(width));
+    std::int64_t begin = first > x1 ? endOf(first - 1) + 1 : 0;
+    for (std::int64_t x = first; x <= last; ++x) {
+        const std::int64_t end = endOf(x);
+        piece(x, begin, end);
+        begin = end + 1;
     }
 }
 
@@ -136,18 +163,6 @@ void CPlotRaster::CopyTo(std::uint32_t* image, std::size_t stride) const
                     corner[row * stride + column] = m_pixels[column * rows + row];
             }
         }
-    }
-}
-
-void CPlotRaster::CopyFrom(const std::uint32_t* image, std::size_t stride)
-{
-    const auto columns = static_cast<std::size_t>(m_area.right - m_area.left);
-    const auto rows = static_cast<std::size_t>(Height());
-    const std::uint32_t* const corner = image + static_cast<std::size_t>(m_area.top) * stride +
-                                        static_cast<std::size_t>(m_area.left);
-    for (std::size_t row = 0; row < rows; ++row) {
-        for (std::size_t column = 0; column < columns; ++column)
-            m_pixels[column * rows + row] = corner[row * stride + column];
     }
 }
 

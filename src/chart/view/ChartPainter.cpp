@@ -4,6 +4,7 @@
 #include "resources/StringTable.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace skeldon {
 
@@ -119,46 +120,61 @@ void CChartPainter::PaintCurves(QImage& target, bool equalRunAlone)
     area.bottom = std::min(area.bottom, target.height());
     const auto stride = static_cast<std::size_t>(target.bytesPerLine()) / sizeof(std::uint32_t);
     auto* const pixels = reinterpret_cast<std::uint32_t*>(target.bits());
-    m_raster.Reset(area, WhitePixel);
     const WalkView view = m_model.View(m_scaleX, m_scaleY);
-    if (equalRunAlone) {
-        m_raster.CopyFrom(pixels, stride);
-        PaintBars(view, m_model.m_equalRun);
+    m_strokes.clear();
+    m_fills.clear();
+    if (m_model.m_barChart || equalRunAlone) {
+        const LineSpan& lines = equalRunAlone ? m_model.m_equalRun : m_model.m_drawn;
+        CBarWalk(m_model.m_index, view, m_model.m_currentLine, area.top, area.bottom)
+            .WalkLines(lines.first, lines.last, m_fills);
     } else {
-        PaintGrid(m_raster);
-        if (m_model.m_barChart)
-            PaintBars(view, m_model.m_drawn);
-        else
-            PaintLines(view);
+        CLineWalk(m_model.m_index, view).Walk(m_strokes);
     }
-    m_raster.CopyTo(pixels, stride);
+    const bool isFull = !equalRunAlone && IsMuch(area);
+    if (isFull)
+        m_raster.Reset(area, WhitePixel);
+    else
+        m_raster.DrawOn(area, pixels, stride);
+    if (!equalRunAlone)
+        PaintGrid();
+    PaintStrokes();
+    PaintFills();
+    if (isFull)
+        m_raster.CopyTo(pixels, stride);
 }
 
-void CChartPainter::PaintGrid(CPlotRaster& raster)
+/// Whether so much is drawn that holding the area column by column pays.
+bool CChartPainter::IsMuch(const ChartRect& area) const
+{
+    const std::int64_t pixels =
+        std::int64_t{area.right - area.left} * std::int64_t{area.bottom - area.top};
+    std::int64_t drawn = 0;
+    for (const ChartStroke& stroke : m_strokes)
+        drawn += std::abs(stroke.y2 - stroke.y1);
+    for (const ChartBarFill& fill : m_fills)
+        drawn += fill.rect.bottom - fill.rect.top;
+    return drawn > pixels;
+}
+
+void CChartPainter::PaintGrid()
 {
     const ChartSizes sizes = m_model.Sizes();
     for (const ValueTick& tick : ValueTicks(m_model.m_scale, sizes.clientHeight, m_model.m_unit))
-        raster.Fill(Device(PlaceValueTick(sizes, tick.row).gridLine), ToPixel(ChartColour::Grid));
+        m_raster.Fill(Device(PlaceValueTick(sizes, tick.row).gridLine), ToPixel(ChartColour::Grid));
     for (const TimeTick& tick : m_model.Ticks())
-        raster.Fill(Device(TimeGridLine(sizes, tick.column)), ToPixel(ChartColour::Grid));
+        m_raster.Fill(Device(TimeGridLine(sizes, tick.column)), ToPixel(ChartColour::Grid));
 }
 
-void CChartPainter::PaintLines(const WalkView& view)
+void CChartPainter::PaintStrokes()
 {
-    m_strokes.clear();
-    CLineWalk(m_model.m_index, view).Walk(m_strokes);
     const int width = std::max(1, RoundPixel(m_model.m_lineWeight * m_scaleX));
     for (const ChartStroke& stroke : m_strokes)
         m_raster.Line(stroke.x1, stroke.y1, stroke.x2, stroke.y2, width,
                       Pixel(stroke.series, stroke.isDimmed));
 }
 
-void CChartPainter::PaintBars(const WalkView& view, const LineSpan& lines)
+void CChartPainter::PaintFills()
 {
-    m_fills.clear();
-    const ChartRect area = m_raster.Area();
-    CBarWalk(m_model.m_index, view, m_model.m_currentLine, area.top, area.bottom)
-        .WalkLines(lines.first, lines.last, m_fills);
     for (const ChartBarFill& fill : m_fills)
         m_raster.Fill(fill.rect, fill.kind == BarFillKind::Edge
                                      ? WhitePixel

@@ -52,9 +52,10 @@ private:
     void PaintGround(CScaledPainter& painter);
     void PaintValueTicks(CScaledPainter& painter);
     void PaintCurves(QImage& target, bool equalRunAlone);
-    void PaintLines(const WalkView& view);
-    void PaintBars(const WalkView& view, const LineSpan& lines);
-    void PaintGrid(CPlotRaster& raster);
+    [[nodiscard]] bool IsMuch(const ChartRect& area) const;
+    void PaintGrid();
+    void PaintStrokes();
+    void PaintFills();
     [[nodiscard]] ChartRect Device(const ChartRect& rect) const;
     [[nodiscard]] std::uint32_t Pixel(Series series, bool isDimmed) const;
 

@@ -90,6 +90,11 @@ TEST(PlotRaster, DrawsLinesAsOneWouldPixelByPixel)
         PlainLine(plain, area, x1, y1, x2, y2, width);
         ASSERT_EQ(PictureOf(raster), plain)
             << x1 << ',' << y1 << " to " << x2 << ',' << y2 << " width " << width;
+        Picture direct(Side * Side, 0);
+        raster.DrawOn(area, direct.data(), Side);
+        raster.Fill(area, White);
+        raster.Line(x1, y1, x2, y2, width, Ink);
+        ASSERT_EQ(direct, plain) << "drawn on the image";
     }
 }
 

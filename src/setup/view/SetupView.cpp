@@ -6,6 +6,7 @@
 #include "controls/RecorderPicture.h"
 #include "controls/SkinButton.h"
 #include "resources/StringTable.h"
+#include "setup/view/ConditionEditors.h"
 #include "setup/view/ProfileList.h"
 #include "setup/view/SetupForm.h"
 
@@ -18,6 +19,10 @@ namespace skeldon {
 
 CSetupView::CSetupView(QWidget* parent)
     : CView(parent)
+    , m_wizard([](CMeasureCondition& condition, const CProfileStore& /*store*/, QWidget* owner) {
+        return skeldon::RunWizard(condition, owner);
+    })
+    , m_cardForm(RunConditionOption)
     , m_form(new CSetupForm(this))
 {
     m_form->move(setup_layout::Border, setup_layout::Border);

@@ -1,0 +1,594 @@
+#include "controls/LcdPanel.h"
+#include "controls/SpinButton.h"
+#include "setup/view/ConditionEditors.h"
+#include "setup/view/ProfileFolder.h"
+#include "setup/view/ProfileWizardDialog.h"
+#include "setup/view/ProfileWizardPage.h"
+#include "setup/view/WizardPages.h"
+#include "support/window/TestApp.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+using namespace skeldon;
+using skeldon::test::CProfileFolder;
+using skeldon::test::CTestApp;
+
+namespace {
+
+enum Field
+{
+    Sampling,
+    Interval,
+    Threshold,
+    OverThreshold,
+    HostNumber,
+    StartOption,
+    Hazard,
+    Endless,
+    Buzzer,
+    FieldCount,
+};
+
+constexpr int LastPage = 8;
+
+/// What the nine pages are about, in their order.
+QList<int> Values(const CMeasureCondition& c)
+{
+    return {c.GetSampling(), c.GetInterval(), c.Threshold, c.OverThreshold ? 1 : 0,
+            c.SerialNo,      c.StartOpt,      c.Hazard,    c.Endless ? 1 : 0,
+            c.Buzzer ? 1 : 0};
+}
+
+CMeasureCondition Condition(const QList<int>& values)
+{
+    CMeasureCondition c;
+    c.SetSampling(values[Sampling]);
+    c.SetInterval(values[Interval]);
+    c.Threshold = values[Threshold];
+    c.OverThreshold = values[OverThreshold] != 0;
+    c.SerialNo = values[HostNumber];
+    c.StartOpt = values[StartOption];
+    c.Hazard = values[Hazard];
+    c.Endless = values[Endless] != 0;
+    c.Buzzer = values[Buzzer] != 0;
+    return c;
+}
+
+CMeasureCondition With(Field field, int value)
+{
+    QList<int> values(FieldCount, 0);
+    values[field] = value;
+    return Condition(values);
+}
+
+/// Lets the timer of a button run out without waiting for it.
+void Tick(CSpinButton& button)
+{
+    QMetaObject::invokeMethod(&button.m_timer, "timeout");
+    QCoreApplication::sendPostedEvents(&button);
+}
+
+void GoTo(CProfileWizardDialog& wizard, int page)
+{
+    while (wizard.CurrentPage() < page)
+        wizard.m_next->click();
+}
+
+CProfileWizardDialog* OpenWizard()
+{
+    return qobject_cast<CProfileWizardDialog*>(QApplication::activeModalWidget());
+}
+
+} // namespace
+
+/// The wizard that leads through the conditions.
+class WizardTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void StepsOfEachPage_data();
+    void StepsOfEachPage();
+    void HostNumberSkipsNumbersInUse();
+    void HostNumberStaysWhereNoneIsFree();
+    void ButtonsOfEachPage_data();
+    void ButtonsOfEachPage();
+    void PagesShowTheirTexts();
+    void StartOptionsAreToldInSixLines();
+    void EachPageHasArrowsOrToggle();
+    void PartsStandUnderTheHeading();
+    void DescriptionFollowsTheSize();
+    void ValuesShowInYellow();
+    void LampFlips();
+    void HeldArrowsSpeedUp_data();
+    void HeldArrowsSpeedUp();
+    void HostNumberIsTheLowestFree();
+    void HostNumberIsZeroWhereAllAreUsed();
+    void HostNumberIsProposedOnce();
+    void BackAndNextKeepValues();
+    void FinishGivesTheResult();
+    void CancelOnTheLastPageLeavesConditions();
+    void EscapeLeavesConditions();
+    void EnterGoesThroughAllPages();
+    void MnemonicsGoBackAndForth();
+    void ReadingTheTextDoesNotHoldEnter();
+    void ArrowsWorkFromTheKeyboard();
+    void RemarkOnBuzzerNeedsNoRecorder();
+    void TitleIsEmpty();
+
+private:
+    std::unique_ptr<CTestApp> m_app;
+    std::unique_ptr<CProfileFolder> m_folder;
+};
+
+void WizardTest::init()
+{
+    m_app = std::make_unique<CTestApp>();
+    m_folder = std::make_unique<CProfileFolder>();
+}
+
+void WizardTest::cleanup()
+{
+    m_folder.reset();
+    m_app.reset();
+}
+
+void WizardTest::StepsOfEachPage_data()
+{
+    QTest::addColumn<int>("page");
+    QTest::addColumn<int>("start");
+    QTest::addColumn<int>("afterUp");
+    QTest::addColumn<int>("afterDown");
+    QTest::addColumn<int>("afterToggle");
+    constexpr int None = -1;
+
+    QTest::newRow("sampling") << 0 << 4 << 3 << 5 << None;
+    QTest::newRow("sampling, longest") << 0 << 0 << 0 << 1 << None;
+    QTest::newRow("sampling, shortest") << 0 << 9 << 8 << 9 << None;
+    QTest::newRow("interval") << 1 << 8 << 7 << 9 << None;
+    QTest::newRow("interval, longest") << 1 << 0 << 0 << 1 << None;
+    QTest::newRow("interval, shortest") << 1 << 14 << 13 << 14 << None;
+    QTest::newRow("threshold") << 2 << 104 << 105 << 102 << None;
+    QTest::newRow("threshold, lowest") << 2 << 0 << 1 << 0 << None;
+    QTest::newRow("threshold, highest") << 2 << 490 << 490 << 485 << None;
+    QTest::newRow("detection off") << 3 << 0 << None << None << 1;
+    QTest::newRow("detection on") << 3 << 1 << None << None << 0;
+    QTest::newRow("host number") << 4 << 5 << 6 << 4 << None;
+    QTest::newRow("host number, lowest") << 4 << 1 << 2 << 1 << None;
+    QTest::newRow("host number, highest") << 4 << 99 << 99 << 98 << None;
+    QTest::newRow("start option") << 5 << 5 << 6 << 4 << None;
+    QTest::newRow("start option goes round at 90") << 5 << 90 << 0 << 89 << None;
+    QTest::newRow("start option goes round at 0") << 5 << 0 << 1 << 90 << None;
+    QTest::newRow("hazard") << 6 << 200 << 205 << 198 << None;
+    QTest::newRow("hazard, off") << 6 << 0 << 1 << 0 << None;
+    QTest::newRow("hazard, highest") << 6 << 495 << 495 << 490 << None;
+    QTest::newRow("endless off") << 7 << 0 << None << None << 1;
+    QTest::newRow("endless on") << 7 << 1 << None << None << 0;
+    QTest::newRow("buzzer off") << 8 << 0 << None << None << 1;
+    QTest::newRow("buzzer on") << 8 << 1 << None << None << 0;
+}
+
+void WizardTest::StepsOfEachPage()
+{
+    QFETCH(int, page);
+    QFETCH(int, start);
+    QFETCH(int, afterUp);
+    QFETCH(int, afterDown);
+    QFETCH(int, afterToggle);
+    const WizardPage& rule = WizardPages()[static_cast<std::size_t>(page)];
+    const CProfileStore empty(m_folder->Folders());
+    const auto check = [&](WizardPage::Step step, int expected) {
+        QCOMPARE(step != nullptr, expected >= 0);
+        if (step == nullptr)
+            return;
+        CMeasureCondition condition = With(static_cast<Field>(page), start);
+        step(condition, empty);
+        QList<int> values(FieldCount, 0);
+        values[page] = expected;
+        QCOMPARE(Values(condition), values);
+    };
+    check(rule.up, afterUp);
+    check(rule.down, afterDown);
+    check(rule.toggle, afterToggle);
+}
+
+void WizardTest::HostNumberSkipsNumbersInUse()
+{
+    m_folder->WriteProfile("two", "SerialNo=2\r\n");
+    m_folder->WriteProfile("three", "SerialNo=3\r\n");
+    CProfileStore store(m_folder->Folders());
+    QVERIFY(store.Load(false));
+    const WizardPage& rule = WizardPages()[HostNumber];
+    CMeasureCondition condition = With(HostNumber, 1);
+    rule.up(condition, store);
+    QCOMPARE(condition.SerialNo, 4);
+    rule.down(condition, store);
+    QCOMPARE(condition.SerialNo, 1);
+}
+
+void WizardTest::HostNumberStaysWhereNoneIsFree()
+{
+    m_folder->WriteProfile("last", "SerialNo=99\r\n");
+    CProfileStore store(m_folder->Folders());
+    QVERIFY(store.Load(false));
+    CMeasureCondition condition = With(HostNumber, 98);
+    WizardPages()[HostNumber].up(condition, store);
+    QCOMPARE(condition.SerialNo, 98);
+}
+
+void WizardTest::ButtonsOfEachPage_data()
+{
+    QTest::addColumn<int>("page");
+    QTest::addColumn<bool>("hasBack");
+    QTest::addColumn<bool>("hasNext");
+    QTest::addColumn<bool>("hasFinish");
+    QTest::newRow("first") << 0 << false << true << false;
+    for (int page = 1; page < LastPage; ++page)
+        QTest::addRow("page %d", page) << page << true << true << false;
+    QTest::newRow("last") << LastPage << true << false << true;
+}
+
+void WizardTest::ButtonsOfEachPage()
+{
+    QFETCH(int, page);
+    QFETCH(bool, hasBack);
+    QFETCH(bool, hasNext);
+    QFETCH(bool, hasFinish);
+    CProfileWizardDialog wizard{CMeasureCondition()};
+    wizard.show();
+    GoTo(wizard, page);
+    QCOMPARE(wizard.m_back->isVisible() && wizard.m_back->isEnabled(), hasBack);
+    QCOMPARE(wizard.m_next->isVisible(), hasNext);
+    QCOMPARE(wizard.m_finish->isVisible(), hasFinish);
+    QVERIFY(wizard.m_cancel->isVisible());
+    QVERIFY((hasFinish ? wizard.m_finish : wizard.m_next)->isDefault());
+    // At the right edge, Cancel last.
+    QVERIFY(wizard.m_cancel->geometry().right() > wizard.width() - 20);
+    QVERIFY(wizard.m_back->x() > wizard.width() / 4);
+}
+
+void WizardTest::PagesShowTheirTexts()
+{
+    const QStringList headings = {
+        QStringLiteral("Set the sampling."),
+        QStringLiteral("Set recording intervals."),
+        QStringLiteral("Set a threshold."),
+        QStringLiteral("Set it active, the detection of the excess of upper threshold."),
+        QStringLiteral("Set host number (ID)."),
+        QStringLiteral("Set the starting option."),
+        QStringLiteral("Configure hazard value."),
+        QStringLiteral("Configure the Endless mode (Cyclic Recording)"),
+        QStringLiteral("Configure the buzzer."),
+    };
+    const QStringList beginnings = {
+        QStringLiteral("Set the cycle to measure.\n When trace mode"),
+        QStringLiteral("Set the recording intervals.\n The maximum record"),
+        QStringLiteral("Set a threshold.\n All sampling"),
+        QStringLiteral("Set the option of the display \"SHOCKED\" on LCD"),
+        QStringLiteral("Set the number from 1 to 99 to KORVA\nThe host number"),
+        QStringLiteral("0: Promptly, start measuring. Maximum"),
+        QStringLiteral("When G higher than the configured level"),
+        QStringLiteral("Configure ON/OFF for Endless Recording"),
+        QStringLiteral("Configure the buzzer.\nValid only for type QM70 Alpha."),
+    };
+    CProfileWizardDialog wizard{CMeasureCondition()};
+    wizard.show();
+    for (int page = 0; page <= LastPage; ++page) {
+        GoTo(wizard, page);
+        const CProfileWizardPage& shown = wizard.Page(page);
+        QVERIFY(shown.isVisible());
+        QCOMPARE(shown.m_heading->text(), headings[page]);
+        QVERIFY(shown.m_description->toPlainText().startsWith(beginnings[page]));
+        QVERIFY(shown.m_description->isReadOnly());
+    }
+}
+
+void WizardTest::StartOptionsAreToldInSixLines()
+{
+    CProfileWizardDialog wizard{CMeasureCondition()};
+    GoTo(wizard, StartOption);
+    const QString text = wizard.Page(StartOption).m_description->toPlainText();
+    QCOMPARE(text.count(u'\n'), 5);
+    // The wave dash, not the tilde that looks like it.
+    QVERIFY(text.contains(QStringLiteral("\n5\u301C90: Set the idling time")));
+    QVERIFY(text.contains(QStringLiteral("\n3 Magnet on")));
+}
+
+void WizardTest::EachPageHasArrowsOrToggle()
+{
+    CProfileWizardDialog wizard{CMeasureCondition()};
+    wizard.show();
+    const QSet<int> lamps = {OverThreshold, Endless, Buzzer};
+    for (int page = 0; page <= LastPage; ++page) {
+        GoTo(wizard, page);
+        const CProfileWizardPage& shown = wizard.Page(page);
+        const bool isLamp = lamps.contains(page);
+        QCOMPARE(shown.m_toggle != nullptr, isLamp);
+        QCOMPARE(shown.m_up != nullptr, !isLamp);
+        QCOMPARE(shown.m_down != nullptr, !isLamp);
+        QCOMPARE(shown.findChildren<CLcdPanel*>().size(), 1);
+        QCOMPARE(shown.findChildren<CSpinButton*>().size(), isLamp ? 1 : 2);
+    }
+}
+
+void WizardTest::PartsStandUnderTheHeading()
+{
+    CProfileWizardDialog wizard{CMeasureCondition()};
+    wizard.show();
+    GoTo(wizard, OverThreshold);
+    const CProfileWizardPage& arrows = wizard.Page(Sampling);
+    const QRect heading = arrows.m_heading->geometry();
+    const QPoint panel(heading.left() + 16, heading.top() + heading.height() + 16);
+    QCOMPARE(arrows.m_panel->pos(), panel);
+    QCOMPARE(arrows.m_panel->size(), QSize(96, 54));
+    QCOMPARE(arrows.m_up->pos(), panel + QPoint(85, 18));
+    QCOMPARE(arrows.m_down->pos(), panel + QPoint(85, 29));
+    QCOMPARE(arrows.m_description->y(), panel.y() + 54 + 16);
+    const CProfileWizardPage& lamp = wizard.Page(OverThreshold);
+    QCOMPARE(lamp.m_panel->pos(), panel);
+    QCOMPARE(lamp.m_toggle->pos(), panel + QPoint(85, 23));
+    QCOMPARE(lamp.m_description->y(), panel.y() + 42 + 16);
+}
+
+void WizardTest::DescriptionFollowsTheSize()
+{
+    CProfileWizardDialog wizard{CMeasureCondition()};
+    wizard.show();
+    const CProfileWizardPage& page = wizard.Page(0);
+    const int earlier = page.height();
+    wizard.resize(wizard.width() + 40, wizard.height() + 50);
+    QTRY_COMPARE(page.height(), earlier + 50);
+    const QRect description = page.m_description->geometry();
+    QCOMPARE(description.bottom() + 1, page.height());
+    QCOMPARE(description.width(), page.width());
+}
+
+void WizardTest::ValuesShowInYellow()
+{
+    CProfileWizardDialog wizard{With(Threshold, 105)};
+    wizard.show();
+    GoTo(wizard, Threshold);
+    CLcdPanel& panel = *wizard.Page(Threshold).m_panel;
+    QCOMPARE(panel.Value(), 105);
+    QVERIFY(!panel.IsBlank());
+    const QImage image = panel.grab().toImage();
+    int yellow = 0;
+    int green = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            yellow += image.pixelColor(x, y) == QColor(255, 255, 0) ? 1 : 0;
+            green += image.pixelColor(x, y) == QColor(0, 255, 0) ? 1 : 0;
+        }
+    }
+    QVERIFY(yellow > 20);
+    QCOMPARE(green, 0);
+}
+
+void WizardTest::LampFlips()
+{
+    CProfileWizardDialog wizard{CMeasureCondition()};
+    wizard.show();
+    GoTo(wizard, Endless);
+    const CProfileWizardPage& page = wizard.Page(Endless);
+    const QImage off = page.m_panel->grab().toImage();
+    QTest::mouseClick(page.m_toggle, Qt::LeftButton);
+    QVERIFY(wizard.m_condition.Endless);
+    QVERIFY(page.m_panel->grab().toImage() != off);
+    QTest::mouseClick(page.m_toggle, Qt::LeftButton);
+    QVERIFY(!wizard.m_condition.Endless);
+    QCOMPARE(page.m_panel->grab().toImage(), off);
+}
+
+void WizardTest::HeldArrowsSpeedUp_data()
+{
+    QTest::addColumn<int>("page");
+    QTest::addColumn<bool>("speedsUp");
+    QTest::newRow("sampling") << int(Sampling) << false;
+    QTest::newRow("interval") << int(Interval) << false;
+    QTest::newRow("threshold") << int(Threshold) << true;
+    QTest::newRow("host number") << int(HostNumber) << true;
+    QTest::newRow("start option") << int(StartOption) << true;
+    QTest::newRow("hazard") << int(Hazard) << true;
+}
+
+void WizardTest::HeldArrowsSpeedUp()
+{
+    QFETCH(int, page);
+    QFETCH(bool, speedsUp);
+    CProfileWizardDialog wizard{CMeasureCondition()};
+    wizard.show();
+    GoTo(wizard, page);
+    for (CSpinButton* const arrow : {wizard.Page(page).m_up, wizard.Page(page).m_down}) {
+        QTest::mousePress(arrow, Qt::LeftButton);
+        QCOMPARE(arrow->m_timer.interval(), 500);
+        for (int i = 0; i < 10; ++i) {
+            Tick(*arrow);
+            QCOMPARE(arrow->m_timer.interval(), 100);
+        }
+        Tick(*arrow);
+        QCOMPARE(arrow->m_timer.interval(), speedsUp ? 10 : 100);
+        QTest::mouseRelease(arrow, Qt::LeftButton);
+    }
+}
+
+void WizardTest::HostNumberIsTheLowestFree()
+{
+    m_folder->WriteProfile("a", "SerialNo=1\r\n");
+    m_folder->WriteProfile("b", "SerialNo=2\r\n");
+    m_folder->WriteProfile("c", "SerialNo=4\r\n");
+    CProfileWizardDialog wizard{With(HostNumber, 77)};
+    GoTo(wizard, HostNumber - 1);
+    QCOMPARE(wizard.m_condition.SerialNo, 77);
+    GoTo(wizard, HostNumber);
+    QCOMPARE(wizard.Page(HostNumber).m_panel->Value(), 3);
+    GoTo(wizard, LastPage);
+    wizard.m_finish->click();
+    QCOMPARE(wizard.result(), int(QDialog::Accepted));
+    QCOMPARE(wizard.m_condition.SerialNo, 3);
+}
+
+void WizardTest::HostNumberIsZeroWhereAllAreUsed()
+{
+    for (int id = 1; id <= 99; ++id)
+        m_folder->WriteProfile("p" + std::to_string(id), "SerialNo=" + std::to_string(id));
+    CProfileWizardDialog wizard{With(HostNumber, 7)};
+    GoTo(wizard, HostNumber);
+    QCOMPARE(wizard.m_condition.SerialNo, 0);
+}
+
+void WizardTest::HostNumberIsProposedOnce()
+{
+    CProfileWizardDialog wizard{CMeasureCondition()};
+    wizard.show();
+    GoTo(wizard, HostNumber);
+    QTest::mouseClick(wizard.Page(HostNumber).m_up, Qt::LeftButton);
+    QCOMPARE(wizard.m_condition.SerialNo, 2);
+    wizard.m_back->click();
+    wizard.m_next->click();
+    QCOMPARE(wizard.m_condition.SerialNo, 2);
+}
+
+void WizardTest::BackAndNextKeepValues()
+{
+    QList<int> values = {3, 7, 105, 1, 1, 90, 495, 1, 1};
+    CProfileWizardDialog wizard{Condition(values)};
+    wizard.show();
+    for (int page = 0; page < LastPage; ++page) {
+        const CProfileWizardPage& shown = wizard.Page(page);
+        QTest::mouseClick(shown.m_up != nullptr ? shown.m_up : shown.m_toggle, Qt::LeftButton);
+        wizard.m_next->click();
+    }
+    while (wizard.m_back->isEnabled())
+        wizard.m_back->click();
+    QCOMPARE(wizard.CurrentPage(), 0);
+    QCOMPARE(Values(wizard.m_condition), QList<int>({2, 6, 106, 0, 2, 0, 495, 0, 1}));
+    QCOMPARE(wizard.Page(Threshold).m_panel->Value(), 106);
+}
+
+void WizardTest::FinishGivesTheResult()
+{
+    CMeasureCondition condition = With(Threshold, 10);
+    condition.ProfileName = "kept";
+    QTimer::singleShot(0, this, [&] {
+        CProfileWizardDialog* const wizard = OpenWizard();
+        QVERIFY(wizard != nullptr);
+        GoTo(*wizard, Threshold);
+        QTest::mouseClick(wizard->Page(Threshold).m_up, Qt::LeftButton);
+        QCOMPARE(condition.Threshold, 10);
+        GoTo(*wizard, LastPage);
+        wizard->m_finish->click();
+    });
+    QVERIFY(RunWizard(condition, nullptr));
+    QCOMPARE(condition.Threshold, 11);
+    QCOMPARE(condition.SerialNo, 1);
+    QCOMPARE(condition.ProfileName, std::string("kept"));
+}
+
+void WizardTest::CancelOnTheLastPageLeavesConditions()
+{
+    CMeasureCondition condition = With(HostNumber, 8);
+    QTimer::singleShot(0, this, [&] {
+        CProfileWizardDialog* const wizard = OpenWizard();
+        QVERIFY(wizard != nullptr);
+        GoTo(*wizard, LastPage);
+        QTest::mouseClick(wizard->Page(LastPage).m_toggle, Qt::LeftButton);
+        wizard->m_cancel->click();
+    });
+    QVERIFY(!RunWizard(condition, nullptr));
+    QVERIFY(condition.SameConditions(With(HostNumber, 8)));
+}
+
+void WizardTest::EscapeLeavesConditions()
+{
+    CMeasureCondition condition = With(HostNumber, 8);
+    QTimer::singleShot(0, this, [] {
+        CProfileWizardDialog* const wizard = OpenWizard();
+        QVERIFY(wizard != nullptr);
+        GoTo(*wizard, HostNumber);
+        QTest::keyClick(wizard, Qt::Key_Escape);
+    });
+    QVERIFY(!RunWizard(condition, nullptr));
+    QCOMPARE(condition.SerialNo, 8);
+}
+
+void WizardTest::EnterGoesThroughAllPages()
+{
+    CProfileWizardDialog wizard{CMeasureCondition()};
+    wizard.show();
+    QVERIFY(QTest::qWaitForWindowActive(&wizard));
+    for (int page = 0; page < LastPage; ++page) {
+        QCOMPARE(wizard.CurrentPage(), page);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    }
+    QCOMPARE(wizard.CurrentPage(), LastPage);
+    QVERIFY(wizard.isVisible());
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    QVERIFY(!wizard.isVisible());
+    QCOMPARE(wizard.result(), int(QDialog::Accepted));
+}
+
+void WizardTest::MnemonicsGoBackAndForth()
+{
+    CProfileWizardDialog wizard{CMeasureCondition()};
+    wizard.show();
+    QVERIFY(QTest::qWaitForWindowActive(&wizard));
+    QTest::keyClick(&wizard, Qt::Key_N, Qt::AltModifier);
+    QTRY_COMPARE(wizard.CurrentPage(), 1);
+    QTest::keyClick(&wizard, Qt::Key_B, Qt::AltModifier);
+    QTRY_COMPARE(wizard.CurrentPage(), 0);
+}
+
+void WizardTest::ReadingTheTextDoesNotHoldEnter()
+{
+    CProfileWizardDialog wizard{CMeasureCondition()};
+    wizard.show();
+    QVERIFY(QTest::qWaitForWindowActive(&wizard));
+    QPlainTextEdit* const text = wizard.Page(0).m_description;
+    text->setFocus();
+    QTest::keyClick(text, Qt::Key_Return);
+    QCOMPARE(wizard.CurrentPage(), 1);
+}
+
+void WizardTest::ArrowsWorkFromTheKeyboard()
+{
+    CProfileWizardDialog wizard{With(Sampling, 4)};
+    wizard.show();
+    QVERIFY(QTest::qWaitForWindowActive(&wizard));
+    const CProfileWizardPage& page = wizard.Page(0);
+    page.m_up->setFocus();
+    QTest::keyClick(page.m_up, Qt::Key_Space);
+    QCOMPARE(wizard.m_condition.GetSampling(), 3);
+    QTest::keyClick(page.m_up, Qt::Key_Tab);
+    QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(page.m_down));
+    QTest::keyClick(page.m_down, Qt::Key_Tab);
+    QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(page.m_description));
+    QTest::keyClick(page.m_description, Qt::Key_Tab);
+    QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(wizard.m_next));
+}
+
+void WizardTest::RemarkOnBuzzerNeedsNoRecorder()
+{
+    for (const bool isConnected : {false, true}) {
+        m_app->m_frame.m_connected = isConnected;
+        CProfileWizardDialog wizard{CMeasureCondition()};
+        GoTo(wizard, LastPage);
+        QVERIFY(wizard.Page(LastPage).m_description->toPlainText().contains(
+            QStringLiteral("Valid only for type QM70 Alpha.")));
+    }
+}
+
+void WizardTest::TitleIsEmpty()
+{
+    const CProfileWizardDialog wizard{CMeasureCondition()};
+    QVERIFY(wizard.windowTitle().isEmpty());
+}
+
+QTEST_MAIN(WizardTest)
+#include "WizardTest.moc"

@@ -13,10 +13,16 @@ CProfileList::CProfileList(QWidget* parent)
 {
     setUniformItemSizes(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    connect(this, &QListWidget::currentRowChanged, this, [this](int row) {
-        if (row >= 0)
+    connect(this, &QListWidget::itemSelectionChanged, this, [this] {
+        if (const int row = SelectedRow(); row >= 0)
             emit LineChosen(row);
     });
+}
+
+int CProfileList::SelectedRow() const
+{
+    const QModelIndexList rows = selectionModel()->selectedRows();
+    return rows.isEmpty() ? -1 : rows.constFirst().row();
 }
 
 void CProfileList::Show(const CProfileLines& lines, int selected)
@@ -33,11 +39,20 @@ void CProfileList::Show(const CProfileLines& lines, int selected)
 
 void CProfileList::mousePressEvent(QMouseEvent* event)
 {
-    const int before = currentRow();
+    const int before = SelectedRow();
     QListWidget::mousePressEvent(event);
     const QListWidgetItem* const item = itemAt(event->pos());
     if (event->button() == Qt::LeftButton && item != nullptr && row(item) == before)
         emit LineChosen(before);
+}
+
+QItemSelectionModel::SelectionFlags CProfileList::selectionCommand(const QModelIndex& index,
+                                                                   const QEvent* event) const
+{
+    if (!index.isValid())
+        return QItemSelectionModel::NoUpdate;
+    const auto flags = QListWidget::selectionCommand(index, event);
+    return flags.testFlag(QItemSelectionModel::Deselect) ? QItemSelectionModel::NoUpdate : flags;
 }
 
 } // namespace skeldon

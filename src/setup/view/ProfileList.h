@@ -6,7 +6,8 @@ namespace skeldon {
 
 class CProfileLines;
 
-/// The list of profiles or templates. It shows lines in the order given.
+/// The list of profiles or templates. It shows lines in the order given. Once a line is selected
+/// the user can select another one, but not none.
 class CProfileList : public QListWidget
 {
     Q_OBJECT
@@ -23,6 +24,11 @@ signals:
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
+    [[nodiscard]] QItemSelectionModel::SelectionFlags
+    selectionCommand(const QModelIndex& index, const QEvent* event) const override;
+
+private:
+    [[nodiscard]] int SelectedRow() const;
 };
 
 } // namespace skeldon

@@ -22,6 +22,7 @@ namespace skeldon {
 
 namespace {
 
+constexpr ColourRef SelectionColour = 0xB0702C;
 constexpr int LightEdge = 130; // percent of the face
 constexpr int DarkEdge = 150;  // the face by so many percent
 
@@ -127,6 +128,9 @@ void CSetupForm::UseOwnColours()
     own.setColor(QPalette::Text, Qt::black);
     own.setColor(QPalette::WindowText, Qt::black);
     own.setColor(QPalette::PlaceholderText, Qt::darkGray);
+    // The selected line is seen in a window that is not active, too.
+    own.setColor(QPalette::Highlight, ToColour(SelectionColour));
+    own.setColor(QPalette::HighlightedText, Qt::white);
     setPalette(own);
 }
 

@@ -63,6 +63,9 @@ private slots:
     void FormHasItsLines();
     void ClickingALineLoadsIt();
     void KeysGoThroughTheList();
+    void FocusAloneSelectsNothing();
+    void SelectionIsNotLost();
+    void SelectedLineIsSeenInAnInactiveWindow();
     void SelectedLineCanBeTakenAgain();
     void EditModeShowsArrowsInYellow();
     void EditingWithNothingLoadedMakesConditions();
@@ -194,6 +197,59 @@ void SetupViewTest::KeysGoThroughTheList()
     QCOMPARE(app.Form().m_name->text(), QStringLiteral("crate"));
     QTest::keyClick(app.Form().m_list, Qt::Key_Home);
     QCOMPARE(app.Form().m_name->text(), QStringLiteral("box"));
+}
+
+void SetupViewTest::FocusAloneSelectsNothing()
+{
+    CSetupApp app;
+    app.m_folder.WriteProfile("crate", "SerialNo=5\r\n");
+    app.Show();
+    CProfileList& list = *app.Form().m_list;
+    app.Form().m_name->setFocus();
+    QTest::keyClick(app.Form().m_name, Qt::Key_Tab);
+    QVERIFY(list.hasFocus());
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, QPoint(50, 150));
+    QCOMPARE(app.State().m_nListSel, -1);
+    QVERIFY(!app.State().m_bConditionsValid);
+    QVERIFY(list.selectedItems().isEmpty());
+    QTest::keyClick(&list, Qt::Key_Space);
+    QCOMPARE(app.State().m_nListSel, 0);
+    QVERIFY(app.State().m_bConditionsValid);
+}
+
+void SetupViewTest::SelectionIsNotLost()
+{
+    CSetupApp app;
+    app.m_folder.WriteProfile("crate", "SerialNo=5\r\n");
+    app.Show();
+    app.ClickLine(0);
+    CProfileList& list = *app.Form().m_list;
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, QPoint(50, 150));
+    QCOMPARE(list.selectedItems().size(), 1);
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::ControlModifier,
+                      list.visualItemRect(list.item(0)).center());
+    QCOMPARE(list.selectedItems().size(), 1);
+    QCOMPARE(app.State().m_nListSel, 0);
+}
+
+void SetupViewTest::SelectedLineIsSeenInAnInactiveWindow()
+{
+    CSetupApp app;
+    app.m_folder.WriteProfile("crate", "SerialNo=5\r\n");
+    app.m_folder.WriteProfile("box", "SerialNo=9\r\n");
+    app.Show();
+    app.ClickLine(0);
+    const auto backOf = [&app](int line) {
+        CProfileList& list = *app.Form().m_list;
+        const QRect place = list.visualItemRect(list.item(line));
+        return list.viewport()->grab().toImage().pixelColor(place.right() - 8, place.center().y());
+    };
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&other));
+    QCOMPARE(backOf(1), QColor(Qt::white));
+    QVERIFY(backOf(0).lightness() < 160);
 }
 
 void SetupViewTest::SelectedLineCanBeTakenAgain()

@@ -1,4 +1,5 @@
-// Repaints of the chart: all layers, composed, beside a plotting widget that many would take.
+// Repaints of the chart's layers beside those of a plotting widget that many would take. Neither
+// is brought to a screen.
 #include "Benchmarks.h"
 #include "ChartData.h"
 
@@ -39,7 +40,6 @@ struct Chart
         , painter(model, colours, ChartFont())
         , layer(Width, Height, QImage::Format_RGB32)
         , strip(Width, TimeStripHeight * 2, QImage::Format_RGB32)
-        , screen(Width, Height, QImage::Format_RGB32)
     {
         ChartMetrics sizes;
         sizes.clientWidth = Width;
@@ -58,8 +58,7 @@ struct Chart
     {
         painter.PaintChart(layer);
         painter.PaintTimeStrip(strip, 0);
-        painter.Compose(screen, layer, strip, std::nullopt);
-        return screen.pixel(Width / 2, Height / 2);
+        return layer.pixel(Width / 2, Height / 2);
     }
 
     QFontMetrics metrics;
@@ -68,7 +67,6 @@ struct Chart
     CChartPainter painter;
     QImage layer;
     QImage strip;
-    QImage screen;
 };
 
 Chart& ChartOf(Source source, std::size_t lines)

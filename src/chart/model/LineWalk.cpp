@@ -119,7 +119,8 @@ void CLineWalk::Stretch(int line, std::vector<ChartStroke>& strokes)
 void CLineWalk::Draw(const LineEnds& ends, Series series, StrokeKind kind, bool isDimmed,
                      std::vector<ChartStroke>& strokes) const
 {
-    const LineEnds moved = InShortColumns(ends);
+    const bool fits = FitsShort(ends.x1) && FitsShort(ends.x2);
+    const LineEnds moved = fits ? ends : InShortColumns(ends);
     strokes.push_back({m_view.DeviceX(moved.x1), m_view.DeviceY(moved.y1), m_view.DeviceX(moved.x2),
                        m_view.DeviceY(moved.y2), series, kind, isDimmed});
 }

@@ -23,11 +23,15 @@ struct WalkView
     double scaleX = 1.0;
     double scaleY = 1.0;
 
-    [[nodiscard]] int DeviceX(std::int64_t column) const
+    [[nodiscard]] int DeviceX(std::int64_t column) const { return Device(column, scaleX); }
+    [[nodiscard]] int DeviceY(int row) const { return Device(row, scaleY); }
+    [[nodiscard]] static int Device(std::int64_t pixel, double factor)
     {
-        return RoundPixel(static_cast<double>(column) * scaleX);
+        // The rounding moves what is negative by one, also where nothing is scaled.
+        if (factor == 1.0 && pixel > -PixelLimit && pixel < PixelLimit)
+            return static_cast<int>(pixel < 0 ? pixel + 1 : pixel);
+        return RoundPixel(static_cast<double>(pixel) * factor);
     }
-    [[nodiscard]] int DeviceY(int row) const { return RoundPixel(row * scaleY); }
     /// The row of an axis value, less what is scrolled off.
     [[nodiscard]] int Row(double value) const { return scale.Row(value) - scale.m_scrollY; }
 };

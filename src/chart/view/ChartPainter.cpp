@@ -168,9 +168,12 @@ void CChartPainter::PaintGrid()
 void CChartPainter::PaintStrokes()
 {
     const int width = std::max(1, RoundPixel(m_model.m_lineWeight * m_scaleX));
+    std::array<std::array<std::uint32_t, 2>, SeriesCount> pixels{};
+    for (const Series series : AllSeries)
+        pixels[Index(series)] = {Pixel(series, false), Pixel(series, true)};
     for (const ChartStroke& stroke : m_strokes)
         m_raster.Line(stroke.x1, stroke.y1, stroke.x2, stroke.y2, width,
-                      Pixel(stroke.series, stroke.isDimmed));
+                      pixels[Index(stroke.series)][stroke.isDimmed ? 1 : 0]);
 }
 
 void CChartPainter::PaintFills()
@@ -197,11 +200,11 @@ void CChartPainter::PaintTimeStrip(QImage& target, int top)
         name.top, name.right, name.bottom, Qt::AlignLeft, ChartColour::Text);
 }
 
-void CChartPainter::PaintOver(QImage& target, const std::optional<std::pair<int, int>>& selection)
+void CChartPainter::PaintOver(CScaledPainter& painter,
+                              const std::optional<std::pair<int, int>>& selection)
 {
     const ChartSizes sizes = m_model.Sizes();
     const ComposeLayout layout = Composed(sizes);
-    CScaledPainter painter(target, m_font, m_scaleX, m_scaleY);
     const auto bar = m_model.m_barChart ? m_model.CurrentBar() : std::nullopt;
     for (const ChartRect& part : CursorFills(sizes, layout.plotHit, m_model.m_cursorX, bar))
         Fill(painter, part, m_colours.item);
@@ -226,30 +229,25 @@ void CChartPainter::PaintOver(QImage& target, const std::optional<std::pair<int,
                                 fills.tint->bottom, ChartColour::Selection, SelectionAlpha);
 }
 
-void CChartPainter::Compose(QImage& target, const QImage& chart, const QImage& strip,
+void CChartPainter::Compose(QPainter& target, const QImage& chart, const QImage& strip,
                             const std::optional<std::pair<int, int>>& selection)
 {
-    const ComposeLayout layout = Composed(m_model.Sizes());
+    const ChartSizes sizes = m_model.Sizes();
+    const ComposeLayout layout = Composed(sizes);
+    const int width = RoundPixel(sizes.PlotBitmapWidth() * m_scaleX);
     const auto copyRows = [&](const QImage& from, int rows, int to) {
         const int first = RoundPixel(to * m_scaleY);
-        const int count = std::min(
-            {RoundPixel((to + rows) * m_scaleY) - first, target.height() - first, from.height()});
-        const auto bytes =
-            static_cast<std::size_t>(std::min(target.bytesPerLine(), from.bytesPerLine()));
-        for (int row = 0; row < count; ++row)
-            std::copy_n(from.constScanLine(row), bytes, target.scanLine(first + row));
+        target.drawImage(0, first, from, 0, 0, width, RoundPixel((to + rows) * m_scaleY) - first);
     };
     copyRows(chart, layout.chartRows, 0);
-    {
-        CScaledPainter painter(target, m_font, m_scaleX, m_scaleY);
-        if (layout.ground)
-            Fill(painter, *layout.ground, ChartColour::Background);
-        if (layout.band)
-            Fill(painter, *layout.band, ChartColour::Background);
-    }
+    CScaledPainter painter(target, m_font, m_scaleX, m_scaleY);
+    if (layout.ground)
+        Fill(painter, *layout.ground, ChartColour::Background);
+    if (layout.band)
+        Fill(painter, *layout.band, ChartColour::Background);
     if (layout.hasStrip)
         copyRows(strip, m_model.m_timeStripHeight, layout.stripTop);
-    PaintOver(target, selection);
+    PaintOver(painter, selection);
 }
 
 } // namespace skeldon

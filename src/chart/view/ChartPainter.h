@@ -41,15 +41,14 @@ public:
     void PaintEqualRun(QImage& target);
     /// The time strip, from row `top` on.
     void PaintTimeStrip(QImage& target, int top);
-    /// All that lies over the layers: cursor, titles, and the selection between two columns of the
-    /// client area where there is one.
-    void PaintOver(QImage& target, const std::optional<std::pair<int, int>>& selection);
-    /// All at once.
-    void Compose(QImage& target, const QImage& chart, const QImage& strip,
+    /// Puts the layers together and paints what lies over them: cursor, titles, and the selection
+    /// between two columns of the client area where there is one. `painter` goes by device pixels
+    /// from the picture's left top on.
+    void Compose(QPainter& painter, const QImage& chart, const QImage& strip,
                  const std::optional<std::pair<int, int>>& selection);
 
 private:
-    void PaintGround(CScaledPainter& painter);
+    void PaintOver(CScaledPainter& painter, const std::optional<std::pair<int, int>>& selection);
     void PaintValueTicks(CScaledPainter& painter);
     void PaintCurves(QImage& target, bool equalRunAlone);
     [[nodiscard]] bool IsMuch(const ChartRect& area) const;

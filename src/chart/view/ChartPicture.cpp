@@ -110,25 +110,24 @@ QImage ChartPicture(const CChartModel& model, const ChartColours& colours, const
     };
     QImage picture(device(ChartPictureSize(chart, labelHeight)), QImage::Format_RGB32);
     QImage layer(device(chart), QImage::Format_RGB32);
-    QImage composed(device(chart), QImage::Format_RGB32);
     QImage strip(device({chart.width(), std::max(TimeStripHeight, sizes.timeStripHeight)}),
                  QImage::Format_RGB32);
-    if (picture.isNull() || layer.isNull() || composed.isNull() || strip.isNull())
+    if (picture.isNull() || layer.isNull() || strip.isNull())
         return {};
-    for (QImage* const image : {&picture, &layer, &composed, &strip})
+    for (QImage* const image : {&picture, &layer, &strip})
         image->fill(Qt::white);
     CChartPainter painter(model, colours, font);
     painter.SetScale(ratio, ratio);
     painter.PaintChart(layer);
     painter.PaintTimeStrip(strip, 0);
-    painter.Compose(composed, layer, strip, std::nullopt);
 
     CScaledPainter outer(picture, font, ratio, ratio);
     const int right = chart.width() + LegendLabelHeights * labelHeight + 4 * LegendMargin;
     const int top = TitleHeight(labelHeight);
     PaintTitle(outer, title, right, TitleGap, labelHeight + TitleGap);
     PaintLegend(outer, {chart.width(), top, right, top + chart.height()}, colours, labelHeight);
-    outer.Painter().drawImage(0, outer.DeviceY(top), composed);
+    outer.Painter().translate(0, outer.DeviceY(top));
+    painter.Compose(outer.Painter(), layer, strip, std::nullopt);
     return picture;
 }
 

@@ -121,7 +121,7 @@ void CChartWnd::FitLayers()
     const auto device = [ratio](int pixels) { return static_cast<int>(std::ceil(pixels * ratio)); };
     const int wide = device(std::max(width(), 1));
     const int high = device(std::max(height(), 1));
-    if (!Fit(m_chartBitmap, wide, high) || !Fit(m_screenBitmap, wide, high) ||
+    if (!Fit(m_chartBitmap, wide, high) ||
         !Fit(m_timeBitmap, wide, device(std::max(TimeStripHeight, m_model.m_timeStripHeight))))
         throw std::bad_alloc();
 }
@@ -154,10 +154,6 @@ void CChartWnd::PaintLayers(ChartWork work)
     } else if (work == ChartWork::EqualRun) {
         m_painter->PaintEqualRun(m_chartBitmap);
     }
-    std::optional<std::pair<int, int>> selection;
-    if (m_mouseState == MouseState::Dragging)
-        selection = {m_dragStartX, m_dragX};
-    m_painter->Compose(m_screenBitmap, m_chartBitmap, m_timeBitmap, selection);
 }
 
 void CChartWnd::UpdateScrollBars()
@@ -176,17 +172,27 @@ void CChartWnd::UpdateScrollBars()
 void CChartWnd::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
-    const ChartSizes sizes = m_model.Sizes();
-    const int rows = height() - sizes.horzScrollHeight;
-    const QRect target(sizes.gaugeWidth, 0, sizes.PlotBitmapWidth(), rows);
-    if (m_isPainted) {
-        const double ratio = devicePixelRatioF();
-        painter.drawImage(QRectF(target), m_screenBitmap,
-                          QRectF(0, 0, target.width() * ratio, target.height() * ratio));
-    } else {
+    if (m_isPainted)
+        PaintPicture(painter);
+    else
         painter.fillRect(rect(), Qt::white);
-    }
     PaintCorners(painter);
+}
+
+void CChartWnd::PaintPicture(QPainter& painter)
+{
+    const ChartSizes sizes = m_model.Sizes();
+    const double ratio = devicePixelRatioF();
+    std::optional<std::pair<int, int>> selection;
+    if (m_mouseState == MouseState::Dragging)
+        selection = {m_dragStartX, m_dragX};
+    painter.save();
+    painter.setClipRect(sizes.gaugeWidth, 0, sizes.PlotBitmapWidth(),
+                        height() - sizes.horzScrollHeight);
+    painter.translate(sizes.gaugeWidth, 0);
+    painter.scale(1.0 / ratio, 1.0 / ratio);
+    m_painter->Compose(painter, m_chartBitmap, m_timeBitmap, selection);
+    painter.restore();
 }
 
 void CChartWnd::PaintCorners(QPainter& painter) const

@@ -21,8 +21,8 @@ class CChartScaleGauge;
 /// The measured result as curves or bars over time, below the list. What is shown and how it
 /// follows the user is the model's; this is its window.
 ///
-/// The picture lies in three layers: value axis, grid and curves; the time strip; and the
-/// composition of both with what moves with the mouse. A paint event copies the last one.
+/// The picture lies in two layers: value axis, grid and curves; and the time strip. A paint event
+/// puts them together and adds what moves with the mouse.
 class CChartWnd : public QWidget
 {
     Q_OBJECT
@@ -90,6 +90,7 @@ private:
     void CarryOut();
     void PaintLayers(ChartWork work);
     void UpdateScrollBars();
+    void PaintPicture(QPainter& painter);
     void PaintCorners(QPainter& painter) const;
     [[nodiscard]] ChartRect PlotHit() const;
 
@@ -112,7 +113,6 @@ private:
     QScrollBar* m_horzScroll;
     QImage m_chartBitmap;
     QImage m_timeBitmap;
-    QImage m_screenBitmap;
     bool m_isPainted = false; ///< the layers hold a picture
     MouseState m_mouseState = MouseState::Idle;
     int m_dragStartX = 0;

@@ -234,7 +234,7 @@ void CChartWnd::SetMouseState(MouseState state)
     const double ratio = devicePixelRatioF();
     switch (state) {
     case MouseState::Idle:
-        unsetCursor();
+        setCursor(Qt::ArrowCursor);
         break;
     case MouseState::ArmedOff:
         setCursor(AreaCursor(PictureId::CursorAreaOff, ratio));

@@ -7,6 +7,8 @@
 #include <QPainter>
 #include <QString>
 
+#include <optional>
+
 namespace skeldon {
 
 /// What all painting of the chart goes through, so that the same painter serves the screen at any
@@ -27,6 +29,8 @@ public:
     /// Paints on `target`, which must outlive the painter. `font` has the size that it has at a
     /// factor of 1.
     CScaledPainter(QImage& target, const QFont& font, double scaleX, double scaleY);
+    /// Paints with `painter`, whose coordinates are device pixels.
+    CScaledPainter(QPainter& painter, const QFont& font, double scaleX, double scaleY);
 
     void FillRectScaled(int left, int top, int right, int bottom, ColourRef colour);
     /// One line of text, not clipped, at the left or right side and in the middle of the height.
@@ -42,14 +46,16 @@ public:
     [[nodiscard]] double ScaleY() const { return m_scaleY; }
     [[nodiscard]] int DeviceX(int x) const;
     [[nodiscard]] int DeviceY(int y) const;
-    [[nodiscard]] QPainter& Painter() { return m_painter; }
+    [[nodiscard]] QPainter& Painter() { return *m_painter; }
 
 private:
+    void TakeFont(const QFont& font);
     [[nodiscard]] QRect DeviceRect(int left, int top, int right, int bottom) const;
 
     double m_scaleX;
     double m_scaleY;
-    QPainter m_painter;
+    std::optional<QPainter> m_own; ///< where the target is a picture
+    QPainter* m_painter;
 };
 
 } // namespace skeldon

@@ -7,11 +7,15 @@
 #include <QCloseEvent>
 #include <QElapsedTimer>
 #include <QThread>
+#include <QTimer>
 #include <QWidget>
 
 namespace skeldon {
 
 namespace {
+
+/// Property of the main window: it is to be closed when the work is over.
+constexpr const char* CloseWish = "closeWish";
 
 /// Keeps back the events that would close a window.
 class CCloseCatcher : public QObject
@@ -41,6 +45,31 @@ private:
 
 int pumpDepth = 0;
 
+/// Closes the main window once the work is over in the middle of which that was wanted, with all
+/// that it waits for and asks. `level` is the depth of event loops at which it was wanted.
+void CloseBehindTheWork(QWidget* window, int level)
+{
+    constexpr int RetryMs = 50;
+    if (IsPumping() || QThread::currentThread()->loopLevel() > level ||
+        QApplication::activeModalWidget() != nullptr) {
+        QTimer::singleShot(RetryMs, window, [window, level] { CloseBehindTheWork(window, level); });
+        return;
+    }
+    window->setProperty(CloseWish, false);
+    window->close();
+}
+
+/// One wish is as good as many.
+void WantClose(QWidget* window)
+{
+    if (window->property(CloseWish).toBool())
+        return;
+    window->setProperty(CloseWish, true);
+    const int level = QThread::currentThread()->loopLevel();
+    QMetaObject::invokeMethod(
+        window, [window, level] { CloseBehindTheWork(window, level); }, Qt::QueuedConnection);
+}
+
 } // namespace
 
 bool PumpMessages()
@@ -58,7 +87,7 @@ bool PumpMessages()
     --pumpDepth;
     QWidget* const window = App().MainWindow();
     if (catcher.m_caught && window != nullptr)
-        QMetaObject::invokeMethod(window, &QWidget::close, Qt::QueuedConnection);
+        WantClose(window);
     return catcher.m_caught;
 }
 

@@ -9,6 +9,7 @@
 #include <QMainWindow>
 
 #include <array>
+#include <optional>
 
 class QStackedLayout;
 
@@ -76,6 +77,8 @@ private:
     void SavePlacement();
     void SavePlacementAs(Qt::WindowStates states);
     void FitToView();
+    /// Puts the window there, or where it can be seen.
+    void Place(const QRect& wanted);
 
     CSkeldonDoc m_document;
     bool m_bStarted = false;
@@ -85,6 +88,8 @@ private:
     bool m_hasView = false; ///< a view was switched to
     bool m_bPlacementRestored = false;
     bool m_bFirstSwitch = false;
+    bool m_isRestoring = false;           ///< a stored placement is being applied
+    std::optional<QRect> m_maximisedFrom; ///< where a window restored maximised goes back to
     bool m_closeEnabled = true;
     bool m_isClosing = false;
     std::array<QLabel*, PaneCount> m_panes{};

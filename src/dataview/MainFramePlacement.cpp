@@ -64,6 +64,8 @@ void CMainFrame::FitToView()
     const bool isSetup = m_nCurrentView == ViewIndex::Setup;
     const QSize view = ViewOf(m_nCurrentView).SmallestSize();
     statusBar()->setSizeGripEnabled(!isSetup);
+    if (isSetup)
+        setWindowState(windowState() & ~Qt::WindowMaximized);
     setMinimumSize(0, 0);
     setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
     if (isSetup) {
@@ -91,6 +93,9 @@ WindowPlacement CMainFrame::CurrentPlacement() const
         const QPoint frame = geometry().topLeft() - frameGeometry().topLeft();
         placement.normal = normalGeometry();
         placement.normal.translate(-frame);
+        // The window system knows nothing of a frame that was never seen.
+        if (m_maximisedFrom)
+            placement.normal = *m_maximisedFrom;
     }
     return placement;
 }
@@ -105,21 +110,36 @@ void CMainFrame::RestorePlacement()
     const WindowPlacement current = CurrentPlacement();
     WindowPlacement stored = ReadPlacement(App().Settings(), m_nCurrentView, current);
     m_bPlacementRestored = !isSetup;
+    // What was never stored is left to the window system.
+    bool isKnown = !ReadPlacement(App().Settings(), m_nCurrentView, {}).normal.isNull();
     if (isSetup && m_bFirstSwitch) {
         const QRect display = ReadPlacement(App().Settings(), ViewIndex::Display, {}).normal;
-        if (display.width() != 0)
+        if (display.width() != 0) {
             stored.normal.moveTopLeft(display.topLeft());
+            isKnown = true;
+        }
     }
     const bool isMaximised = !isSetup && stored.showCommand == WindowPlacement::Maximised;
-    setWindowState(isMaximised ? windowState() | Qt::WindowMaximized
-                               : windowState() & ~Qt::WindowMaximized);
-    if (stored.normal == current.normal)
+    if (isMaximised && isMaximized())
         return;
-    const QRect wanted(stored.normal.topLeft(), stored.normal.size().expandedTo(minimumSize()));
-    const QRect rect = OnScreens(wanted, Screens());
+    m_isRestoring = true;
+    setWindowState(windowState() & ~Qt::WindowMaximized);
+    if (isKnown)
+        Place(stored.normal);
+    // The place that the window has now is the one that it goes back to.
+    if (isMaximised) {
+        m_maximisedFrom = QRect(pos(), size());
+        setWindowState(windowState() | Qt::WindowMaximized);
+    }
+    m_isRestoring = false;
+}
+
+void CMainFrame::Place(const QRect& wanted)
+{
+    const QSize size = wanted.size().expandedTo(minimumSize()).boundedTo(maximumSize());
+    const QRect rect = OnScreens({wanted.topLeft(), size}, Screens());
     move(rect.topLeft());
-    if (!isSetup && !isMaximised)
-        resize(rect.size());
+    resize(rect.size());
 }
 
 void CMainFrame::SavePlacement()
@@ -142,8 +162,10 @@ void CMainFrame::SavePlacementAs(Qt::WindowStates states)
 void CMainFrame::changeEvent(QEvent* event)
 {
     QMainWindow::changeEvent(event);
-    if (event->type() != QEvent::WindowStateChange || !m_bStarted)
+    if (event->type() != QEvent::WindowStateChange || !m_bStarted || m_isRestoring)
         return;
+    if (!isMaximized() && !isMinimized())
+        m_maximisedFrom.reset();
     // Before the icon or the whole screen takes its place, the window's own place is kept.
     const Qt::WindowStates before = static_cast<QWindowStateChangeEvent*>(event)->oldState();
     const bool isNew = (isMinimized() && !before.testFlag(Qt::WindowMinimized)) ||

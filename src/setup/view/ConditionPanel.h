@@ -8,7 +8,7 @@ class CLcdPanel;
 class CMeasureCondition;
 enum class SetupPanel;
 
-// The read-outs of the conditions, as setup view and wizard have them.
+// The read-outs, as setup view and wizard have them.
 
 /// The read-out of its kind, with caption and the tint of the forms. Its parent deletes it.
 [[nodiscard]] CLcdPanel* MakeConditionPanel(SetupPanel panel, QWidget* parent);

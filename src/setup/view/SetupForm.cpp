@@ -2,15 +2,14 @@
 
 #include "app/SkeldonApp.h"
 #include "controls/Caption.h"
-#include "controls/IntervalPanel.h"
+#include "controls/LcdPanel.h"
 #include "controls/NameEdit.h"
 #include "controls/RecorderPicture.h"
-#include "controls/SamplingPanel.h"
 #include "controls/SkinButton.h"
 #include "controls/SpinButton.h"
 #include "controls/Theme.h"
 #include "resources/TextFormat.h"
-#include "setup/conditions/MeasureCondition.h"
+#include "setup/view/ConditionPanel.h"
 #include "setup/view/ProfileList.h"
 #include "setup/view/SetupState.h"
 
@@ -25,15 +24,6 @@ namespace {
 constexpr ColourRef SelectionColour = 0xB0702C;
 constexpr int LightEdge = 130; // percent of the face
 constexpr int DarkEdge = 150;  // the face by so many percent
-
-CLcdPanel* MakePanel(LcdPanelKind kind, QWidget* parent)
-{
-    if (kind == LcdPanelKind::Sampling)
-        return new CSamplingPanel(parent);
-    if (kind == LcdPanelKind::Interval)
-        return new CIntervalPanel(parent);
-    return new CLcdPanel(kind, parent);
-}
 
 SpinKind SpinKindOf(StepKind kind)
 {
@@ -181,11 +171,9 @@ void CSetupForm::MakeButtons()
 void CSetupForm::MakePanels()
 {
     for (const SetupPanelForm& form : SetupPanels()) {
-        CLcdPanel* const panel = MakePanel(form.kind, this);
+        CLcdPanel* const panel = MakeConditionPanel(form.panel, this);
         m_panels[static_cast<std::size_t>(form.panel)] = panel;
         panel->setMouseTracking(true);
-        panel->SetCaption(Text(form.caption));
-        panel->SetTint(TintOf(App().m_viewBaseColour));
         panel->move(form.place);
     }
 }
@@ -229,38 +217,7 @@ void CSetupForm::OrderFocus()
 
 void CSetupForm::ShowValue(SetupPanel panel, const CMeasureCondition& condition)
 {
-    switch (panel) {
-    case SetupPanel::Interval:
-        static_cast<CIntervalPanel&>(Panel(panel)).SetRow(condition.GetInterval());
-        break;
-    case SetupPanel::Sampling:
-        static_cast<CSamplingPanel&>(Panel(panel)).SetRow(condition.GetSampling());
-        break;
-    case SetupPanel::StartOption:
-        Panel(panel).SetValue(condition.StartOpt);
-        break;
-    case SetupPanel::Threshold:
-        Panel(panel).SetValue(condition.Threshold);
-        break;
-    case SetupPanel::Hazard:
-        Panel(panel).SetValue(condition.Hazard);
-        break;
-    case SetupPanel::DetectOver:
-        Panel(panel).SetValue(condition.OverThreshold ? 1 : 0);
-        break;
-    case SetupPanel::Endless:
-        Panel(panel).SetValue(condition.Endless ? 1 : 0);
-        break;
-    case SetupPanel::Id:
-        Panel(panel).SetValue(condition.SerialNo);
-        break;
-    case SetupPanel::Buzzer:
-        Panel(panel).SetValue(condition.Buzzer ? 1 : 0);
-        break;
-    case SetupPanel::Records:
-    case SetupPanel::Count:
-        break;
-    }
+    ShowCondition(Panel(panel), panel, condition);
 }
 
 void CSetupForm::ShowConditions(const CMeasureCondition& condition)

@@ -11,6 +11,7 @@
 #include <QScreen>
 #include <QStackedLayout>
 #include <QStatusBar>
+#include <QWindow>
 #include <QWindowStateChangeEvent>
 
 #include <vector>
@@ -140,6 +141,13 @@ void CMainFrame::Place(const QRect& wanted)
     const QRect rect = OnScreens({wanted.topLeft(), size}, Screens());
     move(rect.topLeft());
     resize(rect.size());
+    // How wide the frame will be is not known before the window has been seen: the window system is
+    // told that the corner is the frame's.
+    QWindow* const window = isVisible() ? nullptr : windowHandle();
+    if (window != nullptr) {
+        window->resize(rect.size());
+        window->setFramePosition(rect.topLeft());
+    }
 }
 
 void CMainFrame::SavePlacement()

@@ -1,11 +1,13 @@
 #include "controls/FloatComboEdit.h"
 #include "controls/IntComboEdit.h"
+#include "controls/LcdPanel.h"
 #include "resources/Translation.h"
 #include "setup/conditions/ProfileStore.h"
 #include "setup/view/ConditionEditors.h"
 #include "setup/view/ConditionOptionDialog.h"
 #include "setup/view/ConditionOptions.h"
 #include "setup/view/ProfileFolder.h"
+#include "setup/view/SetupApp.h"
 #include "support/window/TestApp.h"
 
 #include <QApplication>
@@ -17,6 +19,7 @@
 
 using namespace skeldon;
 using skeldon::test::CProfileFolder;
+using skeldon::test::CSetupApp;
 using skeldon::test::CTestApp;
 
 namespace {
@@ -77,6 +80,7 @@ private slots:
     void MnemonicsLeadToTheBoxes_data();
     void MnemonicsLeadToTheBoxes();
     void ListsSpeakTheUsersLanguage();
+    void SetupViewOpensItOnItsProfiles();
 
 private:
     /// A card of `Sample` on the profiles of the folder.
@@ -445,6 +449,28 @@ void CardFormTest::ListsSpeakTheUsersLanguage()
     QCOMPARE(SamplingWords(5), QStringLiteral("0.0312 秒 トレースモード"));
     QCOMPARE(IntervalWords(0), QStringLiteral("30 分"));
     QCOMPARE(IntervalWords(14), QStringLiteral("1 秒"));
+}
+
+void CardFormTest::SetupViewOpensItOnItsProfiles()
+{
+    m_store.reset();
+    m_folder.reset();
+    m_app.reset();
+    CSetupApp app;
+    app.m_folder.WriteProfile("five", "SerialNo=5\r\nThreshold=10\r\n");
+    App().Settings().WriteInt(SystemSection, QStringLiteral("ProfileWizard"), 0);
+    app.Show();
+    QTimer::singleShot(0, this, [] {
+        auto* const card = qobject_cast<CConditionOptionDialog*>(QApplication::activeModalWidget());
+        QVERIFY(card != nullptr);
+        QCOMPARE(card->m_hostNumber->findText(QStringLiteral("5")), -1);
+        card->m_hostNumber->setEditText(QStringLiteral("8"));
+        card->m_threshold->setEditText(QStringLiteral("3.5"));
+        card->accept();
+    });
+    app.Command(CommandId::Wizard);
+    QCOMPARE(app.State().m_current.SerialNo, 8);
+    QCOMPARE(app.Panel(SetupPanel::Threshold).Value(), 35);
 }
 
 QTEST_MAIN(CardFormTest)

@@ -4,6 +4,7 @@
 #include "setup/view/ProfileFolder.h"
 #include "setup/view/ProfileWizardDialog.h"
 #include "setup/view/ProfileWizardPage.h"
+#include "setup/view/SetupApp.h"
 #include "setup/view/WizardPages.h"
 #include "support/window/TestApp.h"
 
@@ -16,6 +17,7 @@
 
 using namespace skeldon;
 using skeldon::test::CProfileFolder;
+using skeldon::test::CSetupApp;
 using skeldon::test::CTestApp;
 
 namespace {
@@ -122,6 +124,7 @@ private slots:
     void ArrowsWorkFromTheKeyboard();
     void RemarkOnBuzzerNeedsNoRecorder();
     void TitleIsEmpty();
+    void SetupViewOpensIt();
 
 private:
     std::unique_ptr<CTestApp> m_app;
@@ -588,6 +591,25 @@ void WizardTest::TitleIsEmpty()
 {
     const CProfileWizardDialog wizard{CMeasureCondition()};
     QVERIFY(wizard.windowTitle().isEmpty());
+}
+
+void WizardTest::SetupViewOpensIt()
+{
+    m_folder.reset();
+    m_app.reset();
+    CSetupApp app;
+    app.m_folder.WriteProfile("five", "SerialNo=5\r\nThreshold=10\r\n");
+    app.Show();
+    QTimer::singleShot(0, this, [] {
+        CProfileWizardDialog* const wizard = OpenWizard();
+        QVERIFY(wizard != nullptr);
+        GoTo(*wizard, LastPage);
+        wizard->m_finish->click();
+    });
+    app.Command(CommandId::Wizard);
+    QVERIFY(app.State().m_bConditionsValid);
+    QCOMPARE(app.State().m_current.SerialNo, 1);
+    QCOMPARE(app.Panel(SetupPanel::Id).Value(), 1);
 }
 
 QTEST_MAIN(WizardTest)

@@ -178,8 +178,12 @@ void CMainFrame::changeEvent(QEvent* event)
     const Qt::WindowStates before = static_cast<QWindowStateChangeEvent*>(event)->oldState();
     const bool isNew = (isMinimized() && !before.testFlag(Qt::WindowMinimized)) ||
                        (isMaximized() && !before.testFlag(Qt::WindowMaximized));
-    if (isNew)
-        SavePlacementAs(before);
+    if (!isNew)
+        return;
+    SavePlacementAs(before);
+    // The frame of the whole screen may be another one.
+    if (isMaximized() && !m_maximisedFrom)
+        m_maximisedFrom = CurrentPlacement().normal;
 }
 
 } // namespace skeldon

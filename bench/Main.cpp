@@ -5,6 +5,7 @@
 #include "PlainOutput.h"
 #include "Rounds.h"
 #include "SampleData.h"
+#include "WindowBench.h"
 
 #include "files/CsvFile.h"
 #include "files/DataFile.h"
@@ -160,8 +161,10 @@ int main(int argc, char** argv)
     const Samples samples = RunRounds(rounds);
     PrintTimes(samples, works);
     PrintRatios(samples, works);
-    if (names.empty())
+    if (names.empty()) {
         PrintMemory();
+        PrintWindowActions(rounds);
+    }
     RemoveFiles();
     return 0;
 }

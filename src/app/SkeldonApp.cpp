@@ -31,18 +31,24 @@ std::uint32_t HandleOf(QWidget* window)
 
 } // namespace
 
-CSkeldonApp::CSkeldonApp(AppServices services)
-    : m_link(std::move(services.finder), std::move(services.opener), *services.clock)
-    , m_sharedBlock(services.sharedBlock, services.sharedMutex)
-    , m_services(std::move(services))
+CSkeldonApp::Access::Access(CSkeldonApp& app)
 {
-    theApp = this;
+    theApp = &app;
 }
 
-CSkeldonApp::~CSkeldonApp()
+CSkeldonApp::Access::~Access()
 {
     theApp = nullptr;
 }
+
+CSkeldonApp::CSkeldonApp(AppServices services)
+    : m_access(*this)
+    , m_services(std::move(services))
+    , m_link(std::move(m_services.finder), std::move(m_services.opener), *m_services.clock)
+    , m_sharedBlock(m_services.sharedBlock, m_services.sharedMutex)
+{}
+
+CSkeldonApp::~CSkeldonApp() = default;
 
 bool CSkeldonApp::InitInstance(const QStringList& words)
 {

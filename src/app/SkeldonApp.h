@@ -79,6 +79,21 @@ public:
     /// What `m_dispUnit` stands for; any number but 1 and 2 is G.
     [[nodiscard]] DispUnit GetDispUnit() const;
 
+private:
+    /// Makes the object known to all for as long as it lives.
+    struct Access
+    {
+        explicit Access(CSkeldonApp& app);
+        Access(const Access&) = delete;
+        Access& operator=(const Access&) = delete;
+        ~Access();
+    };
+
+    // The link's window, which goes with the link, needs these to remember its place.
+    Access m_access;
+    AppServices m_services;
+
+public:
     CSkeldonCommandLine m_commandLine;
     QString m_language;         ///< the system's language by its English name
     bool m_ctrlAtStart = false; ///< Ctrl was held when the program started
@@ -91,7 +106,6 @@ private:
     void ReadColoursAndUnits();
     void MakeDataFolder();
 
-    AppServices m_services;
     CLockFile m_instanceMutex;
     CConversation m_conversation;
     CFrame* m_frame = nullptr;

@@ -33,7 +33,7 @@ namespace skeldon {
 namespace {
 
 constexpr QSize SmallestSize(420, 320);
-/// Digits that the box for the limit takes; any number of them can be counted.
+/// Digits of the limit that are looked at: more than the largest has, and few enough to be counted.
 constexpr int LimitDigits = 9;
 constexpr int LimitWidth = 72;
 constexpr int GroupGap = 12;
@@ -91,7 +91,6 @@ void CMonitorDialog::MakeControls()
     };
     m_alwaysWatched = new QCheckBox(Text(StringId::MonitorAlwaysWatched), this);
     m_maxLinesEdit = new QLineEdit(this);
-    m_maxLinesEdit->setMaxLength(LimitDigits);
     m_maxLinesEdit->setFixedWidth(LimitWidth);
     m_set = button(StringId::MonitorSet);
     m_calibrate = button(StringId::MonitorCalibrate);

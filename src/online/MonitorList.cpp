@@ -20,7 +20,7 @@ constexpr int TextX = 2;
 } // namespace
 
 CMonitorList::CMonitorList(QWidget* parent)
-    : QAbstractItemView(parent)
+    : QListView(parent)
 {
     setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     setSelectionMode(NoSelection);
@@ -54,6 +54,11 @@ void CMonitorList::ScrollToEnd()
     updateGeometries();
     if (m_lines->rowCount() >= VisibleLines())
         verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+}
+
+void CMonitorList::doItemsLayout()
+{
+    QAbstractItemView::doItemsLayout();
 }
 
 void CMonitorList::updateGeometries()
@@ -177,11 +182,6 @@ int CMonitorList::horizontalOffset() const
 int CMonitorList::verticalOffset() const
 {
     return verticalScrollBar()->value();
-}
-
-bool CMonitorList::isIndexHidden(const QModelIndex& /*index*/) const
-{
-    return false;
 }
 
 void CMonitorList::setSelection(const QRect& /*rect*/,

@@ -1,14 +1,14 @@
 #pragma once
 
-#include <QAbstractItemView>
+#include <QListView>
 
 namespace skeldon {
 
 class CMonitorModel;
 
-/// Shows lines of text, only that: there is nothing to select. Whatever it does takes time for the
-/// rows in sight alone.
-class CMonitorList : public QAbstractItemView
+/// Shows lines of text, only that: there is nothing to select. A list to screen readers; all layout
+/// is its own, so that whatever it does takes time for the rows in sight alone.
+class CMonitorList : public QListView
 {
     Q_OBJECT
 
@@ -25,6 +25,7 @@ public:
     [[nodiscard]] QRect visualRect(const QModelIndex& index) const override;
     void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
     [[nodiscard]] QModelIndex indexAt(const QPoint& point) const override;
+    void doItemsLayout() override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -38,7 +39,6 @@ protected:
                                          Qt::KeyboardModifiers modifiers) override;
     [[nodiscard]] int horizontalOffset() const override;
     [[nodiscard]] int verticalOffset() const override;
-    [[nodiscard]] bool isIndexHidden(const QModelIndex& index) const override;
     void setSelection(const QRect& rect, QItemSelectionModel::SelectionFlags command) override;
     [[nodiscard]] QRegion visualRegionForSelection(const QItemSelection& selection) const override;
 

@@ -28,6 +28,8 @@ public:
 
     /// Asks the stream to end, which it does at its next line; the window stays until then.
     void reject() override;
+    /// Counts a second and looks whether the stream has ended; what the timer does.
+    void OnSecond();
 
     CSkinButton* m_cancel;
     COnlineCounter* m_elapsedText; ///< seconds since the start
@@ -45,7 +47,6 @@ protected:
 private:
     [[nodiscard]] COnlineCounter* MakeCounter(const QRect& place, Qt::Alignment side);
     void Start();
-    void OnSecond();
 
     CMeasureData& m_measured;
     int m_elapsed = 0; ///< seconds shown so far

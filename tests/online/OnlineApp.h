@@ -1,0 +1,77 @@
+#pragma once
+
+#include "online/MonitorDialog.h"
+#include "support/Process.h"
+#include "support/window/TestApp.h"
+
+#include <QTemporaryDir>
+
+#include <atomic>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace skeldon::test {
+
+/// The machine's clock, which a test may move on, so that nobody waits for the end of a silence.
+class CMovedClock final : public CClock
+{
+public:
+    [[nodiscard]] std::uint32_t TickMs() override { return m_system.TickMs() + m_moved; }
+    void SleepMs(std::uint32_t milliseconds) override { m_system.SleepMs(milliseconds); }
+    [[nodiscard]] CalendarSeconds Now() override { return m_system.Now(); }
+    void MoveOn(std::uint32_t milliseconds) { m_moved += milliseconds; }
+
+private:
+    CSystemClock m_system;
+    std::atomic<std::uint32_t> m_moved = 0;
+};
+
+/// An application object with a monitor window on its link, and a recorder on its cable.
+class COnlineApp
+{
+public:
+    /// `settings` is used again where a test starts the program a second time.
+    explicit COnlineApp(const QString& language = QStringLiteral("English"),
+                        const QString& settings = {});
+    ~COnlineApp();
+    COnlineApp(const COnlineApp&) = delete;
+    COnlineApp& operator=(const COnlineApp&) = delete;
+
+    /// Makes the monitor window as the main window does; settings are given before this.
+    CMonitorDialog& MakeMonitor();
+    [[nodiscard]] CMonitorDialog& Monitor() { return *m_monitor; }
+    /// The monitor's lines as a screen reader gets them.
+    [[nodiscard]] QStringList Log();
+
+    enum class Trace
+    {
+        Off,
+        On,
+    };
+
+    /// Plays a recorder on the cable. `options` are the simulator's.
+    void PlugIn(std::vector<std::string> options = {}, Trace trace = Trace::On);
+    /// What the recorder heard so far, as "m p m x #".
+    [[nodiscard]] QString Heard() const;
+
+    [[nodiscard]] CRecorderLink& Link() { return m_app->m_link; }
+    [[nodiscard]] CSettings& Settings() { return m_app->Settings(); }
+    void Set(const char* key, int value);
+
+    QTemporaryDir m_folder;
+    QString m_settingsFile;
+    std::string m_port; ///< empty without a cable
+    CMovedClock m_clock;
+    CTestFrame m_frame;
+    CScriptedPrompts* m_prompts = nullptr;
+    std::unique_ptr<CSkeldonApp> m_app;
+
+private:
+    [[nodiscard]] std::string TraceFile() const;
+
+    CMonitorDialog* m_monitor = nullptr;
+    std::unique_ptr<CBackgroundProgram> m_simulator;
+};
+
+} // namespace skeldon::test

@@ -118,8 +118,9 @@ private:
     void Pump();
     void Warn(StringId text);
 
-    // Get data.
+    // Get data and online recording.
     void GetData();
+    void RecordOnline();
     void RunReadBack(int expected);
     void ReadBackLoop(CProgressWindow& window, int expected);
 

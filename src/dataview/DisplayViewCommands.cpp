@@ -144,6 +144,8 @@ void CDisplayView::OnCommand(CommandId command)
         return CopyCsv();
     case CommandId::GetData:
         return GetData();
+    case CommandId::OnlineRecording:
+        return RecordOnline();
     case CommandId::OnlineConfiguration:
         return RunOnlineConfig(this);
     case CommandId::SelectArea:

@@ -1,10 +1,11 @@
-// The data view's way of reading a recorder back.
+// The data view's ways of getting lines from a recorder.
 #include "dataview/DisplayView.h"
 
 #include "app/SkeldonApp.h"
 #include "app/WaitCursor.h"
 #include "controls/ProgressWindow.h"
 #include "dataview/DisplayViewBusy.h"
+#include "online/OnlineDialog.h"
 #include "recorder/ReadBack.h"
 #include "resources/StringTable.h"
 
@@ -110,6 +111,32 @@ void CDisplayView::ReadBackLoop(CProgressWindow& window, int expected)
     link.SetWhileWaiting({});
     App().Conversation().Run([&] { link.FinishDownload(m_data); });
     m_strDataPath = m_strUnsaved;
+}
+
+void CDisplayView::RecordOnline()
+{
+    if (!CanGetData() || !QuerySave())
+        return;
+    if (!App().Frame()->IsConnected()) {
+        Warn(StringId::CannotConnect);
+        return;
+    }
+    ClearData();
+    CRecorderLink& link = App().Link();
+    m_data.m_typeNumber = link.m_type;
+    m_data.m_modelName = link.GetModelName();
+    m_data.m_release = link.m_release;
+    ShowSummary({});
+    {
+        const CDisplayViewBusy busy(m_bBusy);
+        COnlineDialog(m_data, this).exec();
+    }
+    // Boxes may follow, and with them the link's next conversation.
+    const bool isFailed = link.m_timedOut;
+    m_strDataPath = m_strUnsaved;
+    AnalyseAndReport(false);
+    if (isFailed)
+        Warn(StringId::OnlineRecordingError);
 }
 
 } // namespace skeldon

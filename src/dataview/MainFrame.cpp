@@ -5,6 +5,7 @@
 #include "dataview/FrameMenus.h"
 #include "dataview/ManualPath.h"
 #include "dataview/RecorderPoll.h"
+#include "online/MonitorDialog.h"
 #include "resources/Menus.h"
 #include "resources/StringTable.h"
 #include "setup/view/SetupView.h"
@@ -16,6 +17,9 @@
 #include <QStackedLayout>
 #include <QStatusBar>
 #include <QUrl>
+
+#include <memory>
+#include <utility>
 
 namespace skeldon {
 
@@ -84,6 +88,7 @@ bool CMainFrame::BuildViews(ViewIndex first)
     }
     SwitchView(first);
     show();
+    MakeMonitor();
     m_poll->Start();
     m_bStarted = true;
     return true;
@@ -144,6 +149,19 @@ void CMainFrame::MakeAccelerators()
         const CommandId command = accelerator.command;
         connect(key, &QShortcut::activated, this, [this, command] { OnCommand(command); });
     }
+}
+
+void CMainFrame::MakeMonitor()
+{
+    auto monitor = std::make_unique<CMonitorDialog>();
+    m_monitor = monitor.get();
+    connect(m_poll, &CRecorderPoll::CableSeen, m_monitor, &CMonitorDialog::SetConnected);
+    App().m_link.SetMonitor(std::move(monitor));
+}
+
+CMonitorDialog& CMainFrame::Monitor()
+{
+    return *m_monitor;
 }
 
 void CMainFrame::OnCommand(CommandId command)
@@ -264,6 +282,8 @@ void CMainFrame::CloseFrame()
 {
     m_document.UpdateAllViews(DocumentHint::Closing);
     SavePlacement();
+    if (m_monitor)
+        m_monitor->close();
     m_poll->Stop();
     m_isClosing = true;
     close();

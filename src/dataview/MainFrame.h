@@ -7,6 +7,7 @@
 
 #include <QLabel>
 #include <QMainWindow>
+#include <QPointer>
 
 #include <array>
 #include <optional>
@@ -17,6 +18,7 @@ namespace skeldon {
 
 class CDisplayView;
 class CFrameMenus;
+class CMonitorDialog;
 class CRecorderPoll;
 class CSetupView;
 
@@ -49,6 +51,8 @@ public:
     [[nodiscard]] CSetupView& SetupView() { return *m_setup; }
     [[nodiscard]] CSkeldonDoc& Document() { return m_document; }
     [[nodiscard]] CRecorderPoll& Poll() { return *m_poll; }
+    /// The monitor window, from the start of the views on; the link owns it.
+    [[nodiscard]] CMonitorDialog& Monitor();
     /// The bar of the view that is shown.
     [[nodiscard]] QMenuBar* MenuOf(ViewIndex view) const;
     /// Carries out what a menu entry or key asks for.
@@ -66,6 +70,7 @@ private:
     void MakeStatusBar();
     void MakeMenus();
     void MakeAccelerators();
+    void MakeMonitor();
     void ShowConfiguration();
     void OpenHelp();
     void OpenSupport();
@@ -89,7 +94,7 @@ private:
     bool m_bPlacementRestored = false;
     bool m_bFirstSwitch = false;
     bool m_isRestoring = false;           ///< a stored placement is being applied
-    std::optional<QRect> m_maximisedFrom; ///< where a window restored maximised goes back to
+    std::optional<QRect> m_maximisedFrom; ///< where a maximised window goes back to
     bool m_closeEnabled = true;
     bool m_isClosing = false;
     std::array<QLabel*, PaneCount> m_panes{};
@@ -97,6 +102,7 @@ private:
     QStackedLayout* m_views = nullptr;
     CFrameMenus* m_frameMenus = nullptr;
     CRecorderPoll* m_poll = nullptr;
+    QPointer<CMonitorDialog> m_monitor;
 };
 
 } // namespace skeldon

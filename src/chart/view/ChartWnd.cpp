@@ -17,6 +17,8 @@ namespace skeldon {
 namespace {
 
 constexpr int LetterSize = 11;
+/// Scroll bars are at least so thick: the corner buttons are as high and need it for their glyphs.
+constexpr int ThinnestScrollBar = 16;
 /// Layers grow by so many device pixels, so that dragging the window's edge makes few new ones.
 constexpr int LayerStep = 256;
 
@@ -79,8 +81,8 @@ ChartMetrics CChartWnd::Metrics() const
     ChartMetrics sizes;
     sizes.clientWidth = width();
     sizes.clientHeight = height();
-    sizes.vertScrollWidth = m_vertScroll->sizeHint().width();
-    sizes.horzScrollHeight = m_horzScroll->sizeHint().height();
+    sizes.vertScrollWidth = std::max(ThinnestScrollBar, m_vertScroll->sizeHint().width());
+    sizes.horzScrollHeight = std::max(ThinnestScrollBar, m_horzScroll->sizeHint().height());
     sizes.labelWidth = metrics.horizontalAdvance(QStringLiteral("-99.9"));
     sizes.labelHeight = metrics.height();
     return sizes;

@@ -73,8 +73,12 @@ private:
 class CTestFrame final : public CFrame
 {
 public:
-    void SetStatusText(const QString& text) override { m_status = text; }
-    void ResetStatus() override { m_status = QStringLiteral("(reset)"); }
+    void SetStatusText(const QString& text) override
+    {
+        m_status = text;
+        m_statuses << text;
+    }
+    void ResetStatus() override { SetStatusText(QStringLiteral("(reset)")); }
     void SetCaption(const QString& text) override { m_caption = text; }
     [[nodiscard]] bool IsConnected() const override { return m_connected; }
     [[nodiscard]] ViewIndex CurrentView() const override { return m_view; }
@@ -86,6 +90,7 @@ public:
     bool BuildViews(ViewIndex /*first*/) override { return true; }
 
     QString m_status;
+    QStringList m_statuses; ///< all texts so far
     QString m_caption;
     bool m_connected = false;
     bool m_placementRestored = false;

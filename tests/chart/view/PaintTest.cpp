@@ -1,0 +1,373 @@
+#include "ChartApp.h"
+
+#include <QSet>
+#include <QTest>
+
+using namespace skeldon;
+using namespace skeldon::test;
+
+namespace {
+
+const QColor White(Qt::white);
+const QColor Grid(0xC0, 0xC0, 0xC0);
+const QColor Cursor(0, 0, 0);
+const QColor Edge(0x40, 0x40, 0x80);
+const std::array<QColor, SeriesCount> Colours{QColor(0xC5, 0x0C, 0xC5), QColor(0x00, 0x00, 0x80),
+                                              QColor(0x00, 0x80, 0x00), QColor(0x80, 0x80, 0x00),
+                                              QColor(0xC1, 0x02, 0x02), QColor(0x49, 0x8B, 0xF9)};
+
+/// A row of its own for each series: 10, -10, 20, 24, 60 / 2 and 160 / 4 units of the axis.
+constexpr ChartLine Level{0, 10.0, -10.0, 20.0, 24.0, 60.0, 160.0, 0};
+constexpr std::array<double, SeriesCount> LevelValues{10.0, -10.0, 20.0, 24.0, 30.0, 40.0};
+
+QSet<int> ColumnsOf(const QImage& picture, int row, const QColor& colour)
+{
+    QSet<int> columns;
+    for (int x = 0; x < picture.width(); ++x) {
+        if (picture.pixelColor(x, row) == colour)
+            columns.insert(x);
+    }
+    return columns;
+}
+
+QSet<int> RowsOf(const QImage& picture, int column, const QColor& colour)
+{
+    QSet<int> rows;
+    for (int y = 0; y < picture.height(); ++y) {
+        if (picture.pixelColor(column, y) == colour)
+            rows.insert(y);
+    }
+    return rows;
+}
+
+/// The numbers from `first` up to but without `end`.
+QSet<int> Span(int first, int end)
+{
+    QSet<int> numbers;
+    for (int i = first; i < end; ++i)
+        numbers.insert(i);
+    return numbers;
+}
+
+bool IsNear(const QColor& one, const QColor& other)
+{
+    constexpr int Rounding = 1;
+    return std::abs(one.red() - other.red()) <= Rounding &&
+           std::abs(one.green() - other.green()) <= Rounding &&
+           std::abs(one.blue() - other.blue()) <= Rounding;
+}
+
+void HideAll(CChartApp& app)
+{
+    for (const Series each : AllSeries)
+        app.Chart().SetSeriesShown(Info(each).mask, false);
+    app.Chart().ChangeScaleStep(0);
+}
+
+} // namespace
+
+/// What the chart's window shows, pixel by pixel.
+class PaintTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void GridLinesLieAtTheTicksOfBothAxesOnWhite()
+    {
+        CChartApp app(SecondLines(20));
+        HideAll(app);
+        const QImage picture = app.Picture();
+        // 21.5 seconds with half a bar at each end: a tick every two, on even seconds of the day;
+        // the data start at an odd one.
+        QSet<int> columns;
+        for (int second = 1; second < 20; second += 2)
+            columns.insert(app.Column(second * 1000));
+        QCOMPARE(ColumnsOf(picture, 30, Grid), columns);
+        QCOMPARE(RowsOf(picture, app.Column(5000), Grid), Span(23, 323));
+
+        const int between = app.Column(5500);
+        QSet<int> rows;
+        for (int value = -50; value <= 50; value += 5)
+            rows.insert(CoarseRow(value) - 1);
+        QCOMPARE(RowsOf(picture, between, Grid), rows);
+        QCOMPARE(ColumnsOf(picture, CoarseRow(20) - 1, Grid),
+                 Span(app.PlotLeft(), app.PlotRight()));
+        for (int row = 30; row < 38; ++row)
+            QCOMPARE(picture.pixelColor(between, row), White);
+    }
+
+    void EachSeriesRunsInItsColourAtTheRowOfItsValue()
+    {
+        for (const Series series : AllSeries) {
+            CChartApp app(SecondLines(20, Level));
+            app.ShowAlone(series);
+            const QImage picture = app.Picture();
+            const QSet<int> rows = RowsOf(picture, app.Column(5500), Colours[Index(series)]);
+            QCOMPARE(rows, QSet<int>{CoarseRow(LevelValues[Index(series)])});
+        }
+        // Half pixels round toward zero below the zero line and away from it above.
+        QCOMPARE(CoarseRow(-10.0), CChartApp::CoarseZero + 29);
+    }
+
+    void TemperatureAndHumidityNeedADataSetThatCarriesThem()
+    {
+        CChartApp app(SecondLines(20, Level));
+        app.m_data.m_hasTemperature = false;
+        app.m_data.m_hasHumidity = false;
+        app.Chart().ResetData();
+        app.Chart().ChangeScaleStep(0);
+        const QImage picture = app.Picture();
+        const int between = app.Column(5500);
+        QVERIFY(RowsOf(picture, between, Colours[Index(Series::Temperature)]).isEmpty());
+        QVERIFY(RowsOf(picture, between, Colours[Index(Series::Humidity)]).isEmpty());
+        QCOMPARE(RowsOf(picture, between, Colours[Index(Series::Resultant)]).size(), 1);
+    }
+
+    void StretchesThatTouchAFlaggedLineAreLightened()
+    {
+        for (const std::uint16_t flag :
+             {RecordFlag::BehindBreak, RecordFlag::Abnormal, RecordFlag::Deleted}) {
+            std::vector<ChartLine> lines = SecondLines(20, Level);
+            lines[10].flags = flag;
+            CChartApp app(lines);
+            app.ShowAlone(Series::X);
+            const QImage picture = app.Picture();
+            const int row = CoarseRow(10.0);
+            const QColor plain = Colours[Index(Series::X)];
+            const QColor light((0xC5 + 1020) / 5, (0x0C + 1020) / 5, (0xC5 + 1020) / 5);
+            QCOMPARE(picture.pixelColor(app.Column(8500), row), plain);
+            QCOMPARE(picture.pixelColor(app.Column(9500), row), light);
+            QCOMPARE(picture.pixelColor(app.Column(10500), row), light);
+            QCOMPARE(picture.pixelColor(app.Column(11500), row), plain);
+        }
+    }
+
+    void AColumnOfManyLinesShowsTheirTruePeakAndTheLastOneNone()
+    {
+        std::vector<ChartLine> lines = SecondLines(20);
+        lines[9].ms = lines[10].ms - 2; // three lines in one column
+        lines[9].x = -20.0;
+        lines[8].ms = lines[10].ms - 1;
+        lines[8].x = 30.0;
+        std::swap(lines[8].ms, lines[9].ms);
+        lines[18].ms = lines[19].ms - 1;
+        lines[18].x = 30.0;
+        CChartApp app(lines);
+        app.ShowAlone(Series::X);
+        const QImage picture = app.Picture();
+        const QColor colour = Colours[Index(Series::X)];
+        const int column = app.Column(9999);
+        QCOMPARE(app.Column(10000), column);
+        const QSet<int> rows = RowsOf(picture, column, colour);
+        QVERIFY(rows.contains(Span(CoarseRow(30.0), CoarseRow(-20.0) + 1)));
+        // The last column holds the end of the stretch to it, and no stroke down to the last line.
+        const int last = app.Column(19000);
+        QCOMPARE(app.Column(18999), last);
+        QVERIFY(RowsOf(picture, last, colour).contains(CoarseRow(30.0)));
+        QVERIFY(!RowsOf(picture, last, colour).contains(CoarseRow(5.0)));
+    }
+
+    void BarsReachFromTheZeroLineToTheValueShortOnesInFront()
+    {
+        std::vector<ChartLine> lines = SecondLines(20, Level);
+        for (ChartLine& line : lines)
+            line.ms *= 10;
+        CChartApp app(lines);
+        app.Chart().SetBarChart(true);
+        const QImage picture = app.Picture();
+        const int column = app.Column(60'000);
+        const auto colourAt = [&](double value) {
+            return picture.pixelColor(column, CoarseRow(value));
+        };
+        QCOMPARE(colourAt(35.0), Colours[Index(Series::Humidity)]);
+        QCOMPARE(colourAt(27.0), Colours[Index(Series::Temperature)]);
+        QCOMPARE(colourAt(22.0), Colours[Index(Series::Resultant)]);
+        QCOMPARE(colourAt(15.0), Colours[Index(Series::Z)]);
+        QCOMPARE(colourAt(5.0), Colours[Index(Series::X)]);
+        QCOMPARE(colourAt(-5.0), Colours[Index(Series::Y)]);
+        QCOMPARE(colourAt(42.0), White);
+        // A bar is half as wide as the smallest step, which counts for 5 seconds at most.
+        const double pixelsPerMs = (app.PlotRight() - app.PlotLeft()) / 192'500.0;
+        const int half = static_cast<int>(1250 * pixelsPerMs + 0.5);
+        const int row = CoarseRow(37.0);
+        QCOMPARE(picture.pixelColor(column - half - 1, row), White);
+        QCOMPARE(picture.pixelColor(column - half, row), Colours[Index(Series::Humidity)]);
+        QCOMPARE(picture.pixelColor(column + half, row), Colours[Index(Series::Humidity)]);
+        QCOMPARE(picture.pixelColor(column + half + 1, row), White);
+    }
+
+    void TheCursorHasCapsAndTakesTheItemColour()
+    {
+        CChartApp app(SecondLines(20));
+        HideAll(app);
+        app.Chart().OnMeasureGraph(MeasureGraphCode::CurrentLine, 6);
+        const int column = app.Column(6000);
+        const QImage picture = app.Picture();
+        QCOMPARE(RowsOf(picture, column, Cursor) & Span(0, 330), Span(21, 325));
+        const QSet<int> caps = Span(21, 26) | Span(320, 325);
+        for (const int beside : {column - 2, column - 1, column + 1, column + 2})
+            QCOMPARE(RowsOf(picture, beside, Cursor) & Span(0, 330), caps);
+        for (const int beside : {column - 3, column + 3})
+            QVERIFY((RowsOf(picture, beside, Cursor) & Span(0, 330)).isEmpty());
+
+        ChartColours colours;
+        colours.item = 0x0102FD;
+        app.Chart().SetColours(colours);
+        QCOMPARE(app.Picture().pixelColor(column, 200), QColor(0xFD, 0x02, 0x01));
+    }
+
+    void AThinBarStaysVisibleThroughTheCursor()
+    {
+        CChartApp app(SecondLines(3000, Level));
+        app.ShowAlone(Series::X);
+        app.Chart().SetBarChart(true);
+        app.Chart().OnMeasureGraph(MeasureGraphCode::CurrentLine, 1500);
+        const QSet<int> rows = RowsOf(app.Picture(), app.Column(1500 * 1000), Cursor);
+        const QSet<int> bar = Span(CoarseRow(10.0), CChartApp::CoarseZero);
+        QVERIFY((rows & bar).isEmpty());
+        QVERIFY(rows.contains(Span(26, CoarseRow(10.0))));
+        QVERIFY(rows.contains(Span(CChartApp::CoarseZero, 323)));
+
+        app.Chart().SetBarChart(false);
+        QVERIFY(RowsOf(app.Picture(), app.Column(1500 * 1000), Cursor).contains(bar));
+    }
+
+    void TheSelectionHasEdgesAndATintBetweenThem()
+    {
+        CChartApp app(SecondLines(20));
+        HideAll(app);
+        QVERIFY(app.Chart().BeginAreaSelection());
+        const int a = app.Column(4500);
+        const int b = app.Column(8500);
+        QTest::mousePress(&app.Chart(), Qt::LeftButton, {}, app.InPlot(a));
+        QCOMPARE(RowsOf(app.Picture(), a, Edge), Span(24, 324));
+        QTest::mouseMove(&app.Chart(), app.InPlot(b));
+        const QImage picture = app.Picture();
+        QCOMPARE(ColumnsOf(picture, 30, Edge), (QSet<int>{a, b}));
+        QCOMPARE(RowsOf(picture, b, Edge), Span(24, 324));
+        const auto tinted = [](int channel, int tint) { return (channel * 230 + tint * 25) / 255; };
+        const QColor veil(tinted(255, 0x40), tinted(255, 0x40), tinted(255, 0x80));
+        QVERIFY(IsNear(picture.pixelColor(a + 1, 30), veil));
+        QVERIFY(IsNear(picture.pixelColor(b - 1, 30), veil));
+        QCOMPARE(picture.pixelColor(a - 1, 30), White);
+        QCOMPARE(picture.pixelColor(b + 1, 30), White);
+        QTest::mouseRelease(&app.Chart(), Qt::LeftButton, {}, app.InPlot(b));
+        QVERIFY(ColumnsOf(app.Picture(), 30, Edge).isEmpty());
+    }
+
+    void CornerButtonsShowWhatCanBeDone()
+    {
+        const QColor red(0xFF, 0, 0);
+        const QColor green(0, 0xFF, 0);
+        const QColor dark(0x40, 0x40, 0x40);
+        const QColor disabled(0x80, 0x80, 0x80);
+        CChartApp app(SecondLines(20));
+        const int scrollBar = app.Chart().height() - app.ScrollBarTop();
+        const int centre = app.Chart().height() - 2 * scrollBar;
+        const int area = app.Chart().height() - scrollBar;
+        const int form = app.Chart().width() - scrollBar;
+        app.Chart().DisplayInCenter();
+        QImage picture = app.Picture();
+        QCOMPARE(picture.pixelColor(6, centre + 6), disabled);
+        QVERIFY(picture.pixelColor(7, centre + 6) != red);
+        QCOMPARE(picture.pixelColor(5, area + 6), disabled);
+        QVERIFY(picture.pixelColor(8, area + 7) != red);
+        QCOMPARE(picture.pixelColor(form + 3, area + 6), dark);
+        QCOMPARE(picture.pixelColor(form + 4, area + 7), green);
+
+        QVERIFY(app.Chart().ZoomInTime());
+        app.Chart().SetBarChart(true);
+        picture = app.Picture();
+        QCOMPARE(picture.pixelColor(6, centre + 6), dark);
+        QCOMPARE(picture.pixelColor(7, centre + 6), red);
+        QCOMPARE(picture.pixelColor(5, area + 6), dark);
+        QCOMPARE(picture.pixelColor(8, area + 7), red);
+        QCOMPARE(picture.pixelColor(form + 6, area + 4), dark);
+        QCOMPARE(picture.pixelColor(form + 7, area + 4), green);
+        // The frame: face, light from the top left, dark outside at the bottom right.
+        QCOMPARE(picture.pixelColor(1, area + 3), White);
+        QCOMPARE(picture.pixelColor(15, area + 5), dark);
+        QCOMPARE(picture.pixelColor(14, area + 5), disabled);
+        QCOMPARE(picture.pixelColor(0, area + 3), QColor(0xEC, 0xE9, 0xD8));
+    }
+
+    void BelowTheStripAWindowTallerThanTheContentIsWhite()
+    {
+        CChartApp app(SecondLines(20, Level));
+        const int bottom = app.ScrollBarTop();
+        const QImage picture = app.Picture();
+        for (int row = bottom - 60; row < bottom; ++row) {
+            for (int x = CChartApp::Gauge; x < app.PlotRight(); ++x)
+                QCOMPARE(picture.pixelColor(x, row), White);
+        }
+        // The strip lies right below the content and holds the labels.
+        const int content =
+            CChartApp::CoarsePlotBottom + QFontMetrics(app.Chart().font()).height() / 2;
+        bool hasText = false;
+        for (int row = content; row < content + 60; ++row)
+            hasText |= !ColumnsOf(picture, row, Cursor).isEmpty();
+        QVERIFY(hasText);
+    }
+
+    void TheUpperCapSitsAtTheEdgeWhereThePlotsTopIsScrolledOff()
+    {
+        CChartApp app(SecondLines(20));
+        HideAll(app);
+        app.Chart().ChangeScaleStep(4);
+        app.Chart().OnMeasureGraph(MeasureGraphCode::CurrentLine, 6);
+        QVERIFY(app.Chart().Model().m_scale.m_scrollY > CChartApp::PlotTop);
+        const QImage picture = app.Picture();
+        const int column = app.Column(6000);
+        QCOMPARE(RowsOf(picture, column + 2, Cursor) & Span(0, 20), Span(0, 2));
+        QVERIFY(!RowsOf(picture, column, Cursor).isEmpty());
+    }
+
+    void NoLinesLeaveAnAxisAlone()
+    {
+        CChartApp app({});
+        const QImage picture = app.Picture();
+        const int middle = (app.PlotLeft() + app.PlotRight()) / 2;
+        QVERIFY(RowsOf(picture, middle, Grid).contains(CoarseRow(0.0) - 1));
+        QVERIFY(ColumnsOf(picture, 30, Grid).isEmpty());
+        QCOMPARE(app.Chart().Model().Count(), 0);
+    }
+
+    void OneLineIsNoCurveAndOneBar()
+    {
+        CChartApp app(SecondLines(1, Level));
+        const QColor colour = Colours[Index(Series::X)];
+        app.ShowAlone(Series::X);
+        QVERIFY(ColumnsOf(app.Picture(), CoarseRow(5.0), colour).isEmpty());
+        app.Chart().SetBarChart(true);
+        // 2.5 seconds of a window that is drawn as if it were 5 seconds wide.
+        const double pixelsPerMs = (app.PlotRight() - app.PlotLeft()) * 0.0002;
+        const int width = 2 * static_cast<int>(1250 * pixelsPerMs + 0.5) + 1;
+        QCOMPARE(ColumnsOf(app.Picture(), CoarseRow(5.0), colour).size(), width);
+    }
+
+    void SaysThatItMakesTheChart()
+    {
+        CChartApp app(SecondLines(20));
+        QStringList& statuses = app.m_test.m_frame.m_statuses;
+        statuses.clear();
+        app.Chart().SetLineWeight(2);
+        QCOMPARE(statuses, (QStringList{"Making chart...", "(reset)"}));
+        statuses.clear();
+        app.Chart().OnMeasureGraph(MeasureGraphCode::CurrentLine, 3);
+        QVERIFY(!app.Picture().isNull());
+        QVERIFY(statuses.isEmpty());
+    }
+
+    void AMillionLinesAreOnePicture()
+    {
+        CChartApp app(SecondLines(1'000'000, Level));
+        app.ShowAlone(Series::X);
+        const QImage picture = app.Picture();
+        const int row = CoarseRow(10.0);
+        const QSet<int> columns = ColumnsOf(picture, row, Colours[Index(Series::X)]);
+        QVERIFY(columns.contains(Span(app.PlotLeft() + 1, app.PlotRight() - 1)));
+    }
+};
+
+QTEST_MAIN(PaintTest)
+#include "PaintTest.moc"

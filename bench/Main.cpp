@@ -161,10 +161,10 @@ int main(int argc, char** argv)
     const Samples samples = RunRounds(rounds);
     PrintTimes(samples, works);
     PrintRatios(samples, works);
-    if (names.empty()) {
+    if (names.empty())
         PrintMemory();
+    if (names.empty() || names.front() == "window")
         PrintWindowActions(rounds);
-    }
     RemoveFiles();
     return 0;
 }

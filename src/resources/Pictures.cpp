@@ -197,6 +197,12 @@ QImage Picture(PictureId id, double ratio)
     return entry->second;
 }
 
+void PreparePictures(double ratio)
+{
+    for (int id = 0; id <= static_cast<int>(PictureId::Connection); ++id)
+        (void)Picture(static_cast<PictureId>(id), ratio);
+}
+
 QImage ColouredPicture(PictureId id, const QColor& colour, double ratio)
 {
     QImage image = Picture(id, ratio);

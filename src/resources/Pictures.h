@@ -104,6 +104,9 @@ inline constexpr int ButtonFaceHeight = 28;
 /// The picture at `ratio` device pixels per logical pixel, with that ratio set, drawn once and then
 /// remembered. Null where there is no such picture.
 [[nodiscard]] QImage Picture(PictureId id, double ratio);
+/// Draws the pictures that the first window shows, so that they are at hand: for a thread beside
+/// the one that makes the window. Any thread may ask for pictures.
+void PreparePictures(double ratio);
 
 /// The device pixels of `part`, a part of a picture in logical pixels. Each edge goes to the
 /// nearest pixel edge, so that parts that touch neither overlap nor leave a gap. The pictures are

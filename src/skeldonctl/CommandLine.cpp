@@ -142,8 +142,12 @@ void AddChart(CLI::App& app, Options& options)
     CLI::App* const chart = AddCommand(app, "chart", "Draw a data file as a picture");
     AddPath(*chart, "FILE", options.chart.file, "", "Data file (skd, sks)", true);
     AddPath(*chart, "-o,--output", options.chart.output, "OUT.png", "Picture to write", true);
+    const auto isGiven = [](const std::string& text) {
+        return text.empty() ? std::string("nothing is given") : std::string();
+    };
     chart->add_option("--size", options.size, "Size of the picture, 320x200 to 16384x16384")
-        ->type_name("WxH");
+        ->type_name("WxH")
+        ->check(isGiven);
     chart->add_flag("--bars", options.chart.bars, "Bars instead of lines");
     chart
         ->add_option("--series", options.chart.series,
@@ -163,7 +167,9 @@ void AddChart(CLI::App& app, Options& options)
     for (const auto& [name, text, description] :
          {std::tuple{"--from", &options.from, "First local time that is shown"},
           std::tuple{"--to", &options.to, "Last local time that is shown"}})
-        chart->add_option(name, *text, description)->type_name("\"YYYY-MM-DD HH:MM:SS[.mmm]\"");
+        chart->add_option(name, *text, description)
+            ->type_name("\"YYYY-MM-DD HH:MM:SS[.mmm]\"")
+            ->check(isGiven);
     chart->add_flag("--elapsed", options.chart.elapsed, "Time since the first line on the axis");
 }
 

@@ -90,6 +90,38 @@ TEST(CommandLine, ReadsAReservation)
     EXPECT_EQ(start.at, (CalendarFields{2026, 12, 31, 23, 59, 0}));
 }
 
+TEST(CommandLine, ReadsEveryOptionOfChart)
+{
+    const auto chart =
+        Parsed<ChartCommand>({"chart", "a.skd", "-o", "b.png", "--size", "320x16384", "--bars",
+                              "--series", "thx", "--unit", "Gal", "--from", "2026-03-04 05:06:07",
+                              "--to", "2026-03-04 05:06:07.010", "--elapsed"});
+    EXPECT_EQ(chart.file, "a.skd");
+    EXPECT_EQ(chart.output, "b.png");
+    EXPECT_EQ(chart.width, 320);
+    EXPECT_EQ(chart.height, 16384);
+    EXPECT_TRUE(chart.bars);
+    EXPECT_EQ(chart.series, "thx");
+    EXPECT_EQ(chart.unit, ChartUnit::Gal);
+    const std::int64_t from = FromLocalFields({2026, 3, 4, 5, 6, 7}) * 1000;
+    EXPECT_EQ(chart.from, from);
+    EXPECT_EQ(chart.to, from + 10);
+    EXPECT_TRUE(chart.elapsed);
+}
+
+TEST(CommandLine, DrawsAllSeriesAsLinesInGWithoutOptions)
+{
+    const auto chart = Parsed<ChartCommand>({"chart", "a.skd", "--output", "b.png"});
+    EXPECT_EQ(chart.width, 1200);
+    EXPECT_EQ(chart.height, 700);
+    EXPECT_FALSE(chart.bars);
+    EXPECT_EQ(chart.series, "xyzrth");
+    EXPECT_EQ(chart.unit, ChartUnit::G);
+    EXPECT_EQ(chart.from, std::nullopt);
+    EXPECT_EQ(chart.to, std::nullopt);
+    EXPECT_FALSE(chart.elapsed);
+}
+
 TEST(CommandLine, RefusesWrongUsageWithStatusTwoAndAReason)
 {
     const std::vector<Arguments> wrong{
@@ -114,6 +146,25 @@ TEST(CommandLine, RefusesWrongUsageWithStatusTwoAndAReason)
         {"convert", "a.skd"},
         {"csv", "a.skd", "--unit", "furlong"},
         {"chart", "a.skd"},
+        {"chart", "-o", "a.png"},
+        {"chart", "a.skd", "-o", ""},
+        {"chart", "a.skd", "-o", "a.png", "--size", ""},
+        {"chart", "a.skd", "-o", "a.png", "--size", "319x200"},
+        {"chart", "a.skd", "-o", "a.png", "--size", "320x199"},
+        {"chart", "a.skd", "-o", "a.png", "--size", "16385x200"},
+        {"chart", "a.skd", "-o", "a.png", "--size", "320x16385"},
+        {"chart", "a.skd", "-o", "a.png", "--size", "320"},
+        {"chart", "a.skd", "-o", "a.png", "--size", "320x"},
+        {"chart", "a.skd", "-o", "a.png", "--size", "320x200x1"},
+        {"chart", "a.skd", "-o", "a.png", "--size", "-320x200"},
+        {"chart", "a.skd", "-o", "a.png", "--size", "320x99999999999999999999"},
+        {"chart", "a.skd", "-o", "a.png", "--series", "xq"},
+        {"chart", "a.skd", "-o", "a.png", "--unit", "furlong"},
+        {"chart", "a.skd", "-o", "a.png", "--from", ""},
+        {"chart", "a.skd", "-o", "a.png", "--from", "2026-03-04 05:06"},
+        {"chart", "a.skd", "-o", "a.png", "--to", "2026-02-30 05:06:07"},
+        {"chart", "a.skd", "-o", "a.png", "--from", "2026-03-04 05:06:07", "--to",
+         "2026-03-04 05:06:06.999"},
     };
     for (const Arguments& arguments : wrong) {
         const Refusal refusal = Refused(arguments);
@@ -125,7 +176,8 @@ TEST(CommandLine, RefusesWrongUsageWithStatusTwoAndAReason)
 TEST(CommandLine, TellsHelpAndVersionEverywhere)
 {
     std::vector<Arguments> lines{{}};
-    for (const char* command : {"status", "get", "online", "start", "info", "convert", "csv"})
+    for (const char* command :
+         {"status", "get", "online", "start", "info", "convert", "csv", "chart"})
         lines.push_back({command});
     for (Arguments& line : lines) {
         line.push_back("--version");
@@ -135,6 +187,19 @@ TEST(CommandLine, TellsHelpAndVersionEverywhere)
         EXPECT_EQ(Refused(line).status, ExitStatus::Done);
         EXPECT_NE(Refused(line).text.find("--version"), std::string::npos);
     }
+}
+
+TEST(ParseInstant, TakesSecondsOrMilliseconds)
+{
+    const std::int64_t whole = FromLocalFields({2024, 2, 29, 1, 2, 3}) * 1000;
+    EXPECT_EQ(ParseInstant("2024-02-29 01:02:03"), whole);
+    EXPECT_EQ(ParseInstant("2024-02-29 01:02:03.045"), whole + 45);
+    for (const char* wrong :
+         {"", "2024-02-29 01:02", "2024-02-29 01:02:60", "2023-02-29 01:02:03",
+          "2024-02-29 01:02:03.", "2024-02-29 01:02:03.4", "2024-02-29 01:02:03.0456",
+          "2024-02-29 01:02:03,045", "2024-02-29T01:02:03", "2024-02-29 01:02:03 ",
+          "2024-02-29 01:02:03.-45", "2024-02-29 24:00:00"})
+        EXPECT_EQ(ParseInstant(wrong), std::nullopt) << wrong;
 }
 
 TEST(ParseMinute, TakesOneFormOnly)

@@ -79,8 +79,8 @@ ExitStatus Save(const QImage& picture, const std::filesystem::path& path)
     if (picture.isNull() || !buffer.open(QIODevice::WriteOnly) || !picture.save(&buffer, "PNG"))
         return FailOn(path, "not enough memory for the picture");
     if (const std::error_code error = Write(path, bytes))
-        return FailOn(path, error.message());
-    Tell("Saved " + path.string());
+        return FailOn(path, "Failed to write: " + error.message());
+    Tell("wrote " + path.string());
     return ExitStatus::Done;
 }
 

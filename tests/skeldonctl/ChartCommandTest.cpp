@@ -237,6 +237,14 @@ TEST_F(ChartCommandTest, AnEarlierPictureSurvivesAFailure)
     WriteText(output, "an earlier picture");
     EXPECT_EQ(Tool({"chart", m_folder.Path("nothing.skd").string(), "-o", output}).status, 1);
     EXPECT_EQ(ReadText(output), "an earlier picture");
+
+    // No file may grow: what was there is kept beside what could be written.
+    const std::string command =
+        "trap '' XFSZ; ulimit -f 2; exec " SKELDONCTL " chart '" + m_file + "' -o '" + output + "'";
+    const Outcome outcome = RunProgram("/bin/sh", {"-c", command});
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_NE(outcome.err.find(output + ": Failed to write"), std::string::npos) << outcome.err;
+    EXPECT_EQ(ReadText(output + ".bak"), "an earlier picture");
 }
 
 } // namespace

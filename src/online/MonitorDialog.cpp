@@ -229,8 +229,8 @@ void CMonitorDialog::keyPressEvent(QKeyEvent* event)
 
 void CMonitorDialog::OnSet()
 {
-    const int lines =
-        std::clamp(ScanInt(m_maxLinesEdit->text().toStdString()), LeastMaxLines, MostMaxLines);
+    const std::string typed = m_maxLinesEdit->text().trimmed().left(LimitDigits).toStdString();
+    const int lines = std::clamp(ScanInt(typed), LeastMaxLines, MostMaxLines);
     m_maxLinesEdit->setText(QString::number(lines));
     App().Settings().WriteInt(SystemSection, LinesKey, lines);
     if (m_lines->SetMaxLines(lines))

@@ -231,6 +231,7 @@ private slots:
         QTest::newRow("nothing") << "" << 100;
         QTest::newRow("most") << "9999999" << 9'999'999;
         QTest::newRow("too many") << "10000000" << 9'999'999;
+        QTest::newRow("more than can be counted") << "4294967446" << 9'999'999;
         QTest::newRow("far too many") << "99999999999999" << 9'999'999;
     }
 

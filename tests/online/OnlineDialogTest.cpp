@@ -114,9 +114,12 @@ private slots:
         });
         watch.start(5);
         QCOMPARE(dialog.exec(), static_cast<int>(QDialog::Accepted));
-        // The first second is shown as 0, and the last one is below the total.
-        QCOMPARE(counted.first(), QString());
-        QCOMPARE(dialog.m_elapsedText->GetText(), QStringLiteral("0"));
+        if (counted.last() != dialog.m_elapsedText->GetText())
+            counted << dialog.m_elapsedText->GetText();
+        // Nothing stands there at first, and the first second is shown as 0.
+        QVERIFY(counted.size() >= 2);
+        for (int i = 1; i < counted.size(); ++i)
+            QCOMPARE(counted[i], QString::number(i - 1));
         QCOMPARE(dialog.m_totalText->GetText(), QStringLiteral("2"));
         QCOMPARE(data.GetSize(), std::size_t{400});
         QVERIFY(!app.Link().m_timedOut);

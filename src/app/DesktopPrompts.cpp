@@ -41,10 +41,10 @@ private:
 
 struct BoxForm
 {
-    QMessageBox::Icon icon;
+    QMessageBox::Icon icon = QMessageBox::NoIcon;
     QMessageBox::StandardButtons buttons;
-    QMessageBox::StandardButton preselected;
-    QMessageBox::StandardButton escape;
+    QMessageBox::StandardButton preselected = QMessageBox::NoButton;
+    QMessageBox::StandardButton escape = QMessageBox::NoButton;
 };
 
 BoxForm FormOf(BoxKind kind)

@@ -14,11 +14,11 @@ namespace skeldon {
 /// What a button of the data view shows, gives and remembers.
 struct ButtonForm
 {
-    DataViewButton button;
-    CommandId command;
-    PictureId picture;
-    StringId caption;
-    StringId name;                   ///< for screen readers and as a tool tip
+    DataViewButton button = DataViewButton::Count;
+    CommandId command = CommandId::None;
+    PictureId picture = PictureId::Count;
+    StringId caption = StringId::Count;
+    StringId name = StringId::Count; ///< for screen readers and as a tool tip
     std::uint16_t series = 0;        ///< bit of the chart's series; 0 of any other button
     const char* shownKey = nullptr;  ///< of a series: where its being shown is remembered
     const char* colourKey = nullptr; ///< of a series: where its colour is remembered

@@ -212,7 +212,7 @@ void CMeasuredList::focusInEvent(QFocusEvent* event)
         return;
     }
     // No row becomes the current one just because the list is entered.
-    QAbstractScrollArea::focusInEvent(event);
+    event->accept();
     viewport()->update();
 }
 

@@ -48,7 +48,7 @@ bool RemoveFirstEntry(Menu& menu, CommandId command);
 struct Accelerator
 {
     QKeyCombination key;
-    CommandId command;
+    CommandId command = CommandId::None;
 };
 
 /// The keys of the main window, the same in both views.

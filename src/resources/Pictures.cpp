@@ -119,7 +119,7 @@ const Source* SourceOf(PictureId id)
 QString PathOf(const Source& source, double ratio)
 {
     const QString stem = QStringLiteral(":/pictures/") + QLatin1String(source.file);
-    const QString fitted = stem + QStringLiteral("@1.5x.svg");
+    QString fitted = stem + QStringLiteral("@1.5x.svg");
     if (ratio == 1.5 && QFile::exists(fitted))
         return fitted;
     return stem + QStringLiteral(".svg");

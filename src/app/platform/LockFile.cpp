@@ -15,7 +15,7 @@ std::filesystem::path RuntimeFolder()
     if (given != nullptr && *given == '/')
         return given;
     // Without a session of its own: a folder that is this user's alone.
-    const std::filesystem::path folder = "/tmp/skeldon-" + std::to_string(getuid());
+    std::filesystem::path folder = "/tmp/skeldon-" + std::to_string(getuid());
     mkdir(folder.c_str(), S_IRWXU);
     return folder;
 }

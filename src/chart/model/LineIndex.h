@@ -42,8 +42,8 @@ private:
         return Slots[Index(series)];
     }
 
-    std::array<double, SeriesCount> m_low;
-    std::array<double, SeriesCount> m_high;
+    std::array<double, SeriesCount> m_low{};
+    std::array<double, SeriesCount> m_high{};
 };
 
 /// What is precomputed over the lines of a chart, so that a picture costs by its columns and not by

@@ -74,7 +74,8 @@ std::int64_t CTimeWindow::TimeAt(int column) const
 
 int CTimeWindow::HalfBar() const
 {
-    return RoundPixel(static_cast<double>(m_barWidthMs / 2) * m_pixelsPerMs);
+    const std::int64_t halfMs = m_barWidthMs / 2; // cut to a whole one
+    return RoundPixel(static_cast<double>(halfMs) * m_pixelsPerMs);
 }
 
 CChartRange CTimeWindow::Scrolled(ScrollRequest request, int tracked, bool isCtrlDown) const

@@ -51,18 +51,18 @@ enum class SetupButton
 
 struct SetupPanelForm
 {
-    SetupPanel panel;
-    LcdPanelKind kind;
-    StringId caption;
+    SetupPanel panel{};
+    LcdPanelKind kind{};
+    StringId caption = StringId::Count;
     QPoint place;
 };
 
 struct SetupButtonForm
 {
-    SetupButton button;
-    CommandId command;
-    StringId caption;
-    PictureId picture;
+    SetupButton button{};
+    CommandId command = CommandId::None;
+    StringId caption = StringId::Count;
+    PictureId picture = PictureId::Count;
     QRect place; ///< empty for one that is never shown
 };
 

@@ -47,7 +47,7 @@ private:
 
     struct Page
     {
-        CSheetPage* page;
+        CSheetPage* page = nullptr;
         bool isOpened = false;
     };
 

@@ -48,11 +48,11 @@ enum class StepHint
 
 struct StepRule
 {
-    SetupStep step;
-    SetupPanel panel;
-    StepKind kind;
+    SetupStep step{};
+    SetupPanel panel{};
+    StepKind kind{};
     /// Changes the conditions on show; false where there is no further step.
-    bool (*apply)(CSetupState& state);
+    bool (*apply)(CSetupState& state) = nullptr;
     bool speedsUp = false; ///< held down, it is fast after a while
     StepHint hint = StepHint::None;
 };

@@ -17,12 +17,12 @@ struct WizardPage
     /// Steps one condition; at an end nothing changes.
     using Step = void (*)(CMeasureCondition& condition, const CProfileStore& profiles);
 
-    SetupPanel panel; ///< its read-out
-    StringId heading;
-    StringId description;
-    Step up;
-    Step down;
-    Step toggle;
+    SetupPanel panel{}; ///< its read-out
+    StringId heading = StringId::Count;
+    StringId description = StringId::Count;
+    Step up = nullptr;
+    Step down = nullptr;
+    Step toggle = nullptr;
     bool speedsUp = false; ///< a held arrow is fast after a while
     /// What a page does to the conditions, once, when it is first shown; null for nothing.
     Step open = nullptr;

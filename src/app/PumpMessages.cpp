@@ -86,9 +86,12 @@ bool PumpMessages()
     }
     --pumpDepth;
     QWidget* const window = App().MainWindow();
-    if (catcher.m_caught && window != nullptr)
+    if (window == nullptr)
+        return catcher.m_caught;
+    if (catcher.m_caught)
         WantClose(window);
-    return catcher.m_caught;
+    // Told again by each pump until it is carried out.
+    return window->property(CloseWish).toBool();
 }
 
 bool IsPumping()

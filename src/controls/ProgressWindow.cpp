@@ -128,7 +128,7 @@ void CProgressWindow::showEvent(QShowEvent* event)
                                           : QGuiApplication::primaryScreen()->availableGeometry();
     move(around.center() - rect().center());
     m_isDone = false;
-    m_timer.start(StartDelayMs, this);
+    m_timer.start(StartDelayMs, Qt::PreciseTimer, this);
 }
 
 void CProgressWindow::timerEvent(QTimerEvent* event)

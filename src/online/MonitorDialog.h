@@ -45,16 +45,16 @@ public:
     void Tick();
     void reject() override;
 
-    QCheckBox* m_alwaysWatched;
-    QLineEdit* m_maxLinesEdit;
-    QPushButton* m_set;
-    QPushButton* m_calibrate;
-    QLabel* m_commandLabel;
-    QLineEdit* m_command;
-    CMonitorList* m_list;
-    QPushButton* m_copy;
-    QPushButton* m_clear;
-    QPushButton* m_close;
+    QCheckBox* m_alwaysWatched = nullptr;
+    QLineEdit* m_maxLinesEdit = nullptr;
+    QPushButton* m_set = nullptr;
+    QPushButton* m_calibrate = nullptr;
+    QLabel* m_commandLabel = nullptr;
+    QLineEdit* m_command = nullptr;
+    CMonitorList* m_list = nullptr;
+    QPushButton* m_copy = nullptr;
+    QPushButton* m_clear = nullptr;
+    QPushButton* m_close = nullptr;
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

@@ -58,11 +58,13 @@ void CMonitorList::ScrollToEnd()
 
 void CMonitorList::doItemsLayout()
 {
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call): the base class would lay out every line.
     QAbstractItemView::doItemsLayout();
 }
 
 void CMonitorList::updateGeometries()
 {
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call): likewise.
     QAbstractItemView::updateGeometries();
     if (m_lines == nullptr)
         return;
@@ -84,6 +86,7 @@ void CMonitorList::scrollContentsBy(int /*dx*/, int /*dy*/)
 
 void CMonitorList::resizeEvent(QResizeEvent* event)
 {
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call): likewise.
     QAbstractItemView::resizeEvent(event);
     updateGeometries();
 }

@@ -17,11 +17,11 @@ CSharedBlock::CSharedBlock(const std::string& name)
         return;
     struct stat status = {};
     const bool hasRoom =
-        fstat(m_descriptor, &status) == 0 && (status.st_size >= off_t{sizeof(Words)} ||
-                                              ftruncate(m_descriptor, sizeof(Words)) == 0);
-    void* const memory = hasRoom ? mmap(nullptr, sizeof(Words), PROT_READ | PROT_WRITE, MAP_SHARED,
-                                        m_descriptor, 0)
-                                 : MAP_FAILED;
+        fstat(m_descriptor, &status) == 0 &&
+        (status.st_size >= off_t{sizeof(Words)} || ftruncate(m_descriptor, sizeof(Words)) == 0);
+    void* const memory =
+        hasRoom ? mmap(nullptr, sizeof(Words), PROT_READ | PROT_WRITE, MAP_SHARED, m_descriptor, 0)
+                : MAP_FAILED;
     if (memory == MAP_FAILED)
         return;
     m_words = static_cast<std::uint32_t*>(memory);

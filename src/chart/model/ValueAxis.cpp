@@ -64,22 +64,26 @@ std::vector<ValueTick> ValueTicks(const CValueScale& scale, int clientHeight, Di
     const int top = scale.m_scrollY;
     const int bottom = scale.m_scrollY + clientHeight;
     std::vector<ValueTick> ticks;
-    const auto draw = [&](double value, int row) {
-        ticks.push_back({value, row, AccelerationLabel(value, unit), TemperatureLabel(value),
-                         HumidityLabel(value)});
+    const auto draw = [&](double at, int row) {
+        ticks.push_back(
+            {at, row, AccelerationLabel(at, unit), TemperatureLabel(at), HumidityLabel(at)});
     };
-    for (double value = 0.0; value <= HighestTick; value += interval) {
+    double value = 0.0;
+    while (value <= HighestTick) {
         const int row = scale.Row(value);
         if (row < top)
             break;
         if (row < bottom)
             draw(value, row);
+        value += interval;
     }
-    for (double value = -interval; value >= LowestTick; value -= interval) {
+    value = -interval;
+    while (value >= LowestTick) {
         const int row = scale.Row(value);
         if (row > bottom)
             break;
         draw(value, row);
+        value -= interval;
     }
     return ticks;
 }

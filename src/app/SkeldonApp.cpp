@@ -48,7 +48,11 @@ CSkeldonApp::CSkeldonApp(AppServices services)
     , m_sharedBlock(m_services.sharedBlock, m_services.sharedMutex)
 {}
 
-CSkeldonApp::~CSkeldonApp() = default;
+CSkeldonApp::~CSkeldonApp()
+{
+    // A conversation that is under way is waited for, but not its recorder.
+    m_link.Abandon();
+}
 
 bool CSkeldonApp::InitInstance(const QStringList& words)
 {

@@ -17,7 +17,7 @@ CRecorderLink::CRecorderLink(std::unique_ptr<CCableFinder> finder, PortOpener op
 
 CRecorderLink::~CRecorderLink()
 {
-    m_abandoned = true;
+    Abandon();
     if (m_thread.joinable())
         m_thread.join();
 }
@@ -124,8 +124,7 @@ bool CRecorderLink::SendMonitorCommand(std::string_view text)
         TakeBytes(bytes.size());
         if (!bytes.empty())
             lastByte = Clock().TickMs();
-        else
-            m_timedOut = SilentSince(lastByte);
+        m_timedOut = IsAbandoned() || (bytes.empty() && SilentSince(lastByte));
     }
     return true;
 }

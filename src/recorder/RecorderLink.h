@@ -65,7 +65,8 @@ public:
     /// Switches to the other maximum scanning level; true if the recorder answered. The status is
     /// out of date then, as `m_rangeChanged` tells.
     bool ChangeRange();
-    /// Sends raw text and reports all that comes until the silence of 15 s. The port stays open.
+    /// Sends raw text and reports all that comes until the silence of 15 s, or the program's end.
+    /// The port stays open.
     bool SendMonitorCommand(std::string_view text);
 
     // --- download ---
@@ -118,7 +119,6 @@ private:
     CReceptionBuffer m_rxBuffer;
     std::optional<CRecordStream> m_records;
     std::thread m_thread;
-    std::atomic<bool> m_abandoned = false; ///< the link is being destroyed
     std::mutex m_doneLock;
     std::condition_variable m_doneSignal;
 };

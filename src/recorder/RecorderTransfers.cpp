@@ -141,7 +141,7 @@ void CRecorderLink::ReceiveDownload()
     const std::uint64_t limit = m_rxBuffer.GetCapacity() - EndBytes;
     std::uint64_t stored = 0;
     std::uint32_t lastByte = Clock().TickMs();
-    while (!m_abandoned && stored < limit) {
+    while (!IsAbandoned() && stored < limit) {
         const std::string_view bytes = PeekBytes();
         if (bytes.empty()) {
             if (SilentSince(lastByte)) {
@@ -183,7 +183,7 @@ bool CRecorderLink::ReceiveOnlineLines()
     const std::uint64_t capacity = m_rxBuffer.GetCapacity();
     std::uint64_t stored = 0;
     bool inStep = false; // behind the first end of line: a line cut by the start is lost
-    while (!m_abandoned) {
+    while (!IsAbandoned()) {
         const std::string_view bytes = PeekBytes();
         if (bytes.empty()) {
             if (SilentSince(start))

@@ -83,7 +83,7 @@ std::string CRecorderTransport::ReadReply(std::size_t size)
     for (;;) {
         const std::string_view bytes = PeekBytes();
         if (bytes.empty()) {
-            if (SilentSince(lastByte)) {
+            if (IsAbandoned() || SilentSince(lastByte)) {
                 m_timedOut = true;
                 return reply;
             }
@@ -119,7 +119,8 @@ bool CRecorderTransport::DrainPort()
         TakeBytes(count);
         if (!isGood)
             return true;
-        if (round > 0 && (count == 0 || m_clock.TickMs() - start >= DrainLimitMs))
+        const bool isOver = IsAbandoned() || m_clock.TickMs() - start >= DrainLimitMs;
+        if (round > 0 && (count == 0 || isOver))
             return true;
     }
     return false;

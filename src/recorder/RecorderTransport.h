@@ -45,13 +45,17 @@ public:
     /// communication error.
     bool SendText(std::string_view text);
     /// Reads up to "#", which is taken and not given, to `size` - 1 bytes, or to the silence of
-    /// `m_timeoutMs`, which sets `m_timedOut`.
+    /// `m_timeoutMs` or the program's end, which set `m_timedOut`.
     [[nodiscard]] std::string ReadReply(std::size_t size = ReplySize);
     /// One command and its reply, which must not be empty. Fails at once while a transfer runs.
     bool SendCommand(std::string_view text);
     /// Reads and discards what the port holds: two rounds, then until a round reads nothing, but no
-    /// longer than `DrainLimitMs`. False if the port is closed or gone.
+    /// longer than `DrainLimitMs` or the program's end. False if the port is closed or gone.
     bool DrainPort();
+
+    /// The program ends: from now on whoever waits for the recorder gives up as if its silence were
+    /// over, for good. Any thread may say so.
+    void Abandon() { m_abandoned = true; }
 
     /// Why the port could not be opened or written the last time it was tried; clear where that
     /// went well. Not to be asked while a transfer runs.
@@ -80,6 +84,7 @@ protected:
     void ReportBytes(std::string_view bytes);
     /// Whether the silence since the tick count `since` has lasted too long.
     [[nodiscard]] bool SilentSince(std::uint32_t since);
+    [[nodiscard]] bool IsAbandoned() const { return m_abandoned; }
     void EnableMonitor(bool enabled);
     [[nodiscard]] CClock& Clock() { return m_clock; }
 
@@ -98,6 +103,7 @@ private:
     std::vector<char> m_block;           ///< where reads go
     std::string_view m_held;             ///< bytes of `m_block` that nobody has taken
     std::error_code m_error;
+    std::atomic<bool> m_abandoned = false;
 };
 
 } // namespace skeldon

@@ -1,10 +1,11 @@
 #include "online/OnlineDialog.h"
 
+#include "app/OnlineSeconds.h"
 #include "app/SkeldonApp.h"
 #include "controls/SkinButton.h"
 #include "controls/Theme.h"
 #include "online/OnlineCounter.h"
-#include "online/OnlineSeconds.h"
+#include "recorder/OnlineTime.h"
 #include "resources/Pictures.h"
 #include "resources/StringTable.h"
 
@@ -29,7 +30,6 @@ constexpr QRect WaitPlace(8, 46, 106, 42);
 constexpr QPoint CancelPlace(116, 53);
 constexpr int CancelWidth = 92;
 constexpr QRgb DarkInk = 0xFF1B1915;
-constexpr int DefaultSeconds = 30;
 
 } // namespace
 
@@ -97,8 +97,7 @@ void COnlineDialog::timerEvent(QTimerEvent* event)
 
 void COnlineDialog::Start()
 {
-    const int seconds = OnlineSeconds(
-        App().Settings().GetInt(SystemSection, QStringLiteral("OnlineSecond"), DefaultSeconds));
+    const int seconds = ReadOnlineSeconds(App().Settings());
     m_totalText->SetText(QString::number(seconds));
     m_elapsed = 0;
     m_secondTimer.start(SecondMs, this);

@@ -1,3 +1,4 @@
+#include "recorder/OnlineTime.h"
 #include "recorder/RecorderLink.h"
 #include "recorder/platform/ThreadPriority.h"
 #include "setup/tables/RecorderModel.h"
@@ -18,7 +19,7 @@ constexpr std::uint64_t EndBytes = 2;
 constexpr std::uint64_t OnlineLineBytes = 7;
 constexpr std::size_t OnlineDigits = 6;
 /// The stream's rate is fixed at 200 lines a second, whatever the clock says.
-constexpr std::int64_t OnlineStepMs = 5;
+constexpr std::int64_t OnlineStepMs = 1000 / OnlineLinesPerSecond;
 
 } // namespace
 

@@ -1,6 +1,7 @@
 #include "skeldonctl/CommandLine.h"
 
 #include "base/Version.h"
+#include "recorder/OnlineTime.h"
 
 #include <CLI/CLI.hpp>
 #include <charconv>
@@ -11,8 +12,6 @@
 namespace skeldon {
 
 namespace {
-
-constexpr int LongestOnlineSeconds = 4999;
 
 /// The options of all commands; the parser writes into it.
 struct Options
@@ -90,7 +89,7 @@ void AddRecorderCommands(CLI::App& app, Options& options)
     online->add_option("--seconds", options.online.seconds, "How long, 1 to 4999 seconds")
         ->type_name("N")
         ->required()
-        ->check(CLI::Range(1, LongestOnlineSeconds));
+        ->check(CLI::Range(LeastOnlineSeconds, MostOnlineSeconds));
     AddPath(*online, "-o,--output", options.online.dataFile, "FILE.skd", "Save as a data file",
             false);
     AddJson(*online, options.online.json, &options.online.withRecords);

@@ -34,7 +34,7 @@ struct GetCommand
 struct OnlineCommand
 {
     PortOption port;
-    int seconds = 0; ///< 1..4999
+    int seconds = 0; ///< within the limits of recorder/OnlineTime.h
     std::filesystem::path dataFile;
     bool json = false;
     bool withRecords = false;

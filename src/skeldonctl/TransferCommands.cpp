@@ -1,3 +1,4 @@
+#include "recorder/OnlineTime.h"
 #include "recorder/ReadBack.h"
 #include "skeldonctl/Connection.h"
 #include "skeldonctl/DataSetJson.h"
@@ -13,8 +14,6 @@
 namespace skeldon {
 
 namespace {
-
-constexpr int OnlineLinesPerSecond = 200;
 
 /// What came of a transfer, for the report.
 struct Transferred

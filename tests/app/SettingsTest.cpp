@@ -1,6 +1,7 @@
 #include "app/Settings.h"
 #include "app/CsvSettings.h"
 #include "app/DataFolder.h"
+#include "app/OnlineSeconds.h"
 #include "files/LessPower.h"
 #include "resources/Translation.h"
 
@@ -400,6 +401,33 @@ private slots:
         QVERIFY(!japanese.resultant.empty());
         QVERIFY(japanese.resultant != english.resultant);
         QVERIFY(japanese.humidity != english.humidity);
+    }
+
+    // --- online recording ---
+
+    void OnlineTimeIsHeldToItsLimits_data()
+    {
+        QTest::addColumn<QByteArray>("store");
+        QTest::addColumn<int>("seconds");
+        QTest::newRow("absent") << QByteArray() << 30;
+        QTest::newRow("no number") << QByteArray("OnlineSecond=long") << 30;
+        QTest::newRow("far below") << QByteArray("OnlineSecond=-2000000000") << 1;
+        QTest::newRow("0") << QByteArray("OnlineSecond=0") << 1;
+        QTest::newRow("1") << QByteArray("OnlineSecond=1") << 1;
+        QTest::newRow("2") << QByteArray("OnlineSecond=2") << 2;
+        QTest::newRow("4998") << QByteArray("OnlineSecond=4998") << 4998;
+        QTest::newRow("4999") << QByteArray("OnlineSecond=4999") << 4999;
+        QTest::newRow("5000") << QByteArray("OnlineSecond=5000") << 4999;
+        QTest::newRow("10000") << QByteArray("OnlineSecond=10000") << 4999;
+    }
+
+    void OnlineTimeIsHeldToItsLimits()
+    {
+        QFETCH(const QByteArray, store);
+        CSettings settings = Given("[System]\n" + store + "\n");
+        QTEST(ReadOnlineSeconds(settings), "seconds");
+        WriteOnlineSeconds(settings, 77);
+        QCOMPARE(settings.GetInt(SystemSection, u"OnlineSecond"_s, 0), 77);
     }
 
     // --- folders ---

@@ -4,7 +4,6 @@
 #include "controls/SkinButton.h"
 #include "online/OnlineCounter.h"
 #include "online/OnlineDialog.h"
-#include "online/OnlineSeconds.h"
 #include "resources/Pictures.h"
 
 #include <QAccessible>
@@ -15,15 +14,6 @@ using namespace skeldon;
 using namespace skeldon::test;
 
 namespace {
-
-static_assert(OnlineSeconds(-2'000'000'000) == 1);
-static_assert(OnlineSeconds(0) == 1);
-static_assert(OnlineSeconds(1) == 1);
-static_assert(OnlineSeconds(2) == 2);
-static_assert(OnlineSeconds(30) == 30);
-static_assert(OnlineSeconds(4998) == 4998);
-static_assert(OnlineSeconds(4999) == 4999);
-static_assert(OnlineSeconds(10'000) == 4999);
 
 const std::string Sample = "G010203\r";
 

@@ -1,9 +1,11 @@
 #include "setup/view/OnlineConfigDialog.h"
 
+#include "app/OnlineSeconds.h"
 #include "app/SkeldonApp.h"
 #include "controls/IntComboEdit.h"
+#include "recorder/OnlineTime.h"
 #include "resources/StringTable.h"
-#include "setup/view/OnlineSeconds.h"
+#include "setup/view/OnlineOptions.h"
 
 #include <QAbstractItemView>
 #include <QDialogButtonBox>

@@ -1,6 +1,6 @@
 #include "controls/IntComboEdit.h"
 #include "setup/view/OnlineConfigDialog.h"
-#include "setup/view/OnlineSeconds.h"
+#include "setup/view/OnlineOptions.h"
 #include "support/window/TestApp.h"
 
 #include <QAbstractItemView>

@@ -1,6 +1,5 @@
-#include "setup/view/OnlineSeconds.h"
+#include "setup/view/OnlineOptions.h"
 
-#include "app/Settings.h"
 #include "resources/StringTable.h"
 #include "resources/TextFormat.h"
 
@@ -10,8 +9,6 @@ namespace skeldon {
 
 namespace {
 
-const QString OnlineSecond = QStringLiteral("OnlineSecond");
-
 constexpr int SecondsPerMinute = 60;
 /// The list goes up to these in steps of ten seconds, one minute and ten minutes.
 constexpr int LastPlain = 60;
@@ -19,17 +16,6 @@ constexpr int LastMinute = 600;
 constexpr int Last = 4800;
 
 } // namespace
-
-int ReadOnlineSeconds(const CSettings& settings)
-{
-    return std::clamp(settings.GetInt(SystemSection, OnlineSecond, StandardOnlineSeconds),
-                      LeastOnlineSeconds, MostOnlineSeconds);
-}
-
-void WriteOnlineSeconds(CSettings& settings, int seconds)
-{
-    settings.WriteInt(SystemSection, OnlineSecond, seconds);
-}
 
 QStringList OnlineSecondsOptions()
 {

@@ -86,6 +86,7 @@ private:
     void ShowSummary(const ConditionSummary& summary);
     void PaintBands(QPainter& painter) const;
     void PaintStrip(QPainter& painter) const;
+    void ShowPointer(bool isOnBar);
 
     // Commands.
     bool OnChartCommand(CommandId command);
@@ -131,6 +132,7 @@ private:
     QString m_strStartFile;
     QString m_strUnsaved;
     int m_listBorder = CDataViewLayout::DefaultListBorder;
+    bool m_isPointerOnBar = false;
     bool m_bDragging = false;
     int m_nDragOffset = 0;
     CMeasureData m_data;

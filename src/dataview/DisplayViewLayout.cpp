@@ -5,6 +5,7 @@
 #include "app/SkeldonApp.h"
 #include "chart/view/ChartWnd.h"
 #include "controls/ConnectionIcon.h"
+#include "controls/PictureCursor.h"
 #include "controls/SkinButton.h"
 #include "dataview/ButtonForms.h"
 #include "dataview/MeasuredList.h"
@@ -207,13 +208,21 @@ void CDisplayView::mouseMoveEvent(QMouseEvent* event)
 {
     const QPoint point = event->position().toPoint();
     if (!m_bDragging) {
-        const bool isOnBar = Layout().Splitter(m_listBorder).contains(point);
-        setCursor(isOnBar ? Qt::SplitVCursor : Qt::ArrowCursor);
+        ShowPointer(Layout().Splitter(m_listBorder).contains(point));
         return;
     }
     // The sign makes the bar jump by as much as it was grabbed below its top.
     m_listBorder = Layout().ClampListBorder(point.y() - m_nDragOffset);
     LayOut();
+}
+
+void CDisplayView::ShowPointer(bool isOnBar)
+{
+    if (isOnBar == m_isPointerOnBar)
+        return;
+    m_isPointerOnBar = isOnBar;
+    setCursor(isOnBar ? PictureCursor(PictureId::CursorSplitter, devicePixelRatioF())
+                      : QCursor(Qt::ArrowCursor));
 }
 
 void CDisplayView::mouseReleaseEvent(QMouseEvent* event)

@@ -14,6 +14,15 @@ QString SectionOf(ViewIndex view)
     return view == ViewIndex::Setup ? QStringLiteral("Setup2") : QStringLiteral("Display2");
 }
 
+/// What encloses all screens.
+QRect Desktop(std::span<const QRect> screens)
+{
+    QRect desktop;
+    for (const QRect& screen : screens)
+        desktop |= screen;
+    return desktop;
+}
+
 } // namespace
 
 WindowPlacement ReadPlacement(const CSettings& settings, ViewIndex view,
@@ -54,8 +63,10 @@ QRect OnScreens(const QRect& rect, std::span<const QRect> screens)
         const QRect shown = screen.intersected({rect.topLeft(), QSize(rect.width(), GripHeight)});
         return shown.width() >= GripWidth && shown.height() >= GripHeight;
     };
-    if (screens.empty() || std::ranges::any_of(screens, holdsGrip))
+    if (screens.empty())
         return rect;
+    if (std::ranges::any_of(screens, holdsGrip))
+        return {rect.topLeft(), rect.size().boundedTo(Desktop(screens).size())};
     const QRect& screen = screens.front();
     const QSize size = rect.size().boundedTo(screen.size());
     const int left = std::clamp(rect.left(), screen.left(), screen.right() + 1 - size.width());

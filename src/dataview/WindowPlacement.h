@@ -29,8 +29,8 @@ struct WindowPlacement
                                             const WindowPlacement& current);
 void WritePlacement(CSettings& settings, ViewIndex view, const WindowPlacement& placement);
 
-/// `rect` moved so that its title can be seen and taken hold of on one of the `screens`, and no
-/// larger than that one.
+/// `rect` where its title can be seen and taken hold of on one of the `screens`, and no larger than
+/// all of them together; else moved to the first, and no larger than that one.
 [[nodiscard]] QRect OnScreens(const QRect& rect, std::span<const QRect> screens);
 
 } // namespace skeldon

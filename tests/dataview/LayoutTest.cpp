@@ -327,7 +327,13 @@ private slots:
         CViewApp app;
         app.Show();
         QTest::mouseMove(&app.View(), {100, 184});
-        QCOMPARE(app.View().cursor().shape(), Qt::SplitVCursor);
+        const QCursor splitter = app.View().cursor();
+        QCOMPARE(splitter.shape(), Qt::BitmapCursor);
+        QCOMPARE(splitter.hotSpot(), QPoint(16, 16));
+        const QImage drawn = splitter.pixmap().toImage();
+        QCOMPARE(drawn.convertToFormat(QImage::Format_ARGB32_Premultiplied),
+                 Picture(PictureId::CursorSplitter, 1)
+                     .convertToFormat(QImage::Format_ARGB32_Premultiplied));
         for (const QWidget* const child :
              {app.List().viewport(), static_cast<QWidget*>(&app.View().Chart())})
             QCOMPARE(child->cursor().shape(), Qt::ArrowCursor);

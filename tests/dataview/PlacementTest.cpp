@@ -301,6 +301,7 @@ private slots:
         QTest::newRow("above") << QRect(100, -3000, 700, 560);
         QTest::newRow("below") << QRect(100, 9000, 700, 560);
         QTest::newRow("huge") << QRect(90000, 90000, 200000000, 200000000);
+        QTest::newRow("huge from where it is seen") << QRect(10, 10, 200000000, 200000000);
         QTest::newRow("inside out") << QRect(QPoint(9000, 9000), QSize(-700, -500));
     }
 
@@ -389,6 +390,8 @@ private slots:
         QCOMPARE(OnScreens({QPoint(10, -1), size}, screens), QRect(QPoint(10, 0), size));
         QCOMPARE(OnScreens(QRect(5000, 5000, 3000, 2000), screens), screens[0]);
         QCOMPARE(OnScreens(QRect(5000, 5000, 3, 4), {}), QRect(5000, 5000, 3, 4));
+        QCOMPARE(OnScreens(QRect(500, 10, 2000, 800), screens), QRect(500, 10, 2000, 800));
+        QCOMPARE(OnScreens(QRect(500, 10, 200000000, 801), screens), QRect(500, 10, 2000, 800));
     }
 };
 

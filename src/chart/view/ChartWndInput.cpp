@@ -2,8 +2,8 @@
 #include "chart/view/ChartWnd.h"
 
 #include "chart/view/ScaleGauge.h"
+#include "controls/PictureCursor.h"
 #include "resources/Menus.h"
-#include "resources/Pictures.h"
 
 #include <QAction>
 #include <QGuiApplication>
@@ -21,12 +21,6 @@ namespace {
 bool IsCtrlHeld()
 {
     return QGuiApplication::keyboardModifiers().testFlag(Qt::ControlModifier);
-}
-
-QCursor AreaCursor(PictureId picture, double ratio)
-{
-    const QPoint spot = PictureHotSpot(picture);
-    return QCursor(QPixmap::fromImage(Picture(picture, ratio)), spot.x(), spot.y());
 }
 
 std::optional<ScrollRequest> RequestOf(int action)
@@ -237,13 +231,13 @@ void CChartWnd::SetMouseState(MouseState state)
         setCursor(Qt::ArrowCursor);
         break;
     case MouseState::ArmedOff:
-        setCursor(AreaCursor(PictureId::CursorAreaOff, ratio));
+        setCursor(PictureCursor(PictureId::CursorAreaOff, ratio));
         break;
     case MouseState::ArmedOn:
-        setCursor(AreaCursor(PictureId::CursorAreaOn, ratio));
+        setCursor(PictureCursor(PictureId::CursorAreaOn, ratio));
         break;
     case MouseState::Dragging:
-        setCursor(AreaCursor(PictureId::CursorAreaDrag, ratio));
+        setCursor(PictureCursor(PictureId::CursorAreaDrag, ratio));
         break;
     }
 }

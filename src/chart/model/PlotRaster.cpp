@@ -41,12 +41,17 @@ void CPlotRaster::Reset(const ChartRect& area, std::uint32_t background)
 
 void CPlotRaster::DrawOn(const ChartRect& area, std::uint32_t* image, std::size_t stride)
 {
+    DrawAt(area, image + area.top * static_cast<std::ptrdiff_t>(stride) + area.left, stride);
+}
+
+void CPlotRaster::DrawAt(const ChartRect& area, std::uint32_t* corner, std::size_t stride)
+{
     m_area = area;
     m_area.right = std::max(area.right, area.left);
     m_area.bottom = std::max(area.bottom, area.top);
     m_columnStep = 1;
     m_rowStep = static_cast<std::ptrdiff_t>(stride);
-    m_corner = image + m_area.top * m_rowStep + m_area.left;
+    m_corner = corner;
 }
 
 void CPlotRaster::Fill(const ChartRect& rect, std::uint32_t colour)

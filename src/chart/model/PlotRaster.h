@@ -20,6 +20,8 @@ public:
     /// Draws on `area` of an image whose pixel (0, 0) is that of the plot's coordinates and which
     /// holds the whole area. `stride` is the number of pixels from row to row.
     void DrawOn(const ChartRect& area, std::uint32_t* image, std::size_t stride);
+    /// The same on an image whose pixel (0, 0), `corner`, is the area's left top.
+    void DrawAt(const ChartRect& area, std::uint32_t* corner, std::size_t stride);
 
     void Fill(const ChartRect& rect, std::uint32_t colour);
     /// A line with both its end points. A wide one grows across its direction, first to the left or

@@ -1,5 +1,6 @@
 #include "chart/view/ChartPainter.h"
 
+#include "chart/model/PagePlan.h"
 #include "chart/model/Rounding.h"
 #include "resources/StringTable.h"
 
@@ -83,8 +84,7 @@ void CChartPainter::PaintChart(QImage& target)
 {
     {
         CScaledPainter painter(target, m_font, m_scaleX, m_scaleY);
-        Fill(painter, LayerGround(m_model.Sizes()), ChartColour::Background);
-        PaintValueTicks(painter);
+        PaintAxis(painter);
     }
     if (m_model.Count() >= 1)
         PaintCurves(target, false);
@@ -95,9 +95,10 @@ void CChartPainter::PaintEqualRun(QImage& target)
     PaintCurves(target, true);
 }
 
-void CChartPainter::PaintValueTicks(CScaledPainter& painter)
+void CChartPainter::PaintAxis(CScaledPainter& painter)
 {
     const ChartSizes sizes = m_model.Sizes();
+    Fill(painter, LayerGround(sizes), ChartColour::Background);
     for (const ValueTick& tick : ValueTicks(m_model.m_scale, sizes.clientHeight, m_model.m_unit)) {
         const ValueTickPlace place = PlaceValueTick(sizes, tick.row);
         Fill(painter, place.gridLine, ChartColour::Grid);
@@ -120,16 +121,7 @@ void CChartPainter::PaintCurves(QImage& target, bool equalRunAlone)
     area.bottom = std::min(area.bottom, target.height());
     const auto stride = static_cast<std::size_t>(target.bytesPerLine()) / sizeof(std::uint32_t);
     auto* const pixels = reinterpret_cast<std::uint32_t*>(target.bits());
-    const WalkView view = m_model.View(m_scaleX, m_scaleY);
-    m_strokes.clear();
-    m_fills.clear();
-    if (m_model.m_barChart || equalRunAlone) {
-        const LineSpan& lines = equalRunAlone ? m_model.m_equalRun : m_model.m_drawn;
-        CBarWalk(m_model.m_index, view, m_model.m_currentLine, area.top, area.bottom)
-            .WalkLines(lines.first, lines.last, m_fills);
-    } else {
-        CLineWalk(m_model.m_index, view).Walk(m_strokes);
-    }
+    WalkLines(area, equalRunAlone);
     const bool isFull = !equalRunAlone && IsMuch(area);
     if (isFull)
         m_raster.Reset(area, WhitePixel);
@@ -141,6 +133,51 @@ void CChartPainter::PaintCurves(QImage& target, bool equalRunAlone)
     PaintFills();
     if (isFull)
         m_raster.CopyTo(pixels, stride);
+}
+
+/// Finds what is drawn of the lines.
+void CChartPainter::WalkLines(const ChartRect& area, bool equalRunAlone)
+{
+    const WalkView view = m_model.View(m_scaleX, m_scaleY);
+    m_strokes.clear();
+    m_fills.clear();
+    if (m_model.m_barChart || equalRunAlone) {
+        const LineSpan& lines = equalRunAlone ? m_model.m_equalRun : m_model.m_drawn;
+        CBarWalk(m_model.m_index, view, m_model.m_currentLine, area.top, area.bottom)
+            .WalkLines(lines.first, lines.last, m_fills);
+    } else {
+        CLineWalk(m_model.m_index, view).Walk(m_strokes);
+    }
+}
+
+bool CChartPainter::PaintCurves(CScaledPainter& painter, int bottom)
+{
+    constexpr int PixelBytes = sizeof(std::uint32_t);
+    constexpr int Overlap = 16;
+    if (m_model.Count() < 1)
+        return true;
+    ChartRect area = Device(CurveClip(m_model.Sizes()));
+    area.left = std::max(area.left, 0);
+    area.bottom = std::min(area.bottom, bottom);
+    const int width = area.right - area.left;
+    if (width < 1)
+        return true;
+    WalkLines(area, false);
+    for (const RowBand& band : PlanBands({area.top, area.bottom}, std::int64_t{width} * PixelBytes,
+                                         PageBandBytes, Overlap)) {
+        QImage picture(width, band.bottom - band.top, QImage::Format_RGB32);
+        if (picture.isNull())
+            return false;
+        picture.fill(Qt::white);
+        m_raster.DrawAt({area.left, band.top, area.right, band.bottom},
+                        reinterpret_cast<std::uint32_t*>(picture.bits()),
+                        static_cast<std::size_t>(picture.bytesPerLine()) / PixelBytes);
+        PaintGrid();
+        PaintStrokes();
+        PaintFills();
+        painter.Painter().drawImage(area.left, band.top, picture);
+    }
+    return true;
 }
 
 /// Whether so much is drawn that holding the area column by column pays.
@@ -167,7 +204,7 @@ void CChartPainter::PaintGrid()
 
 void CChartPainter::PaintStrokes()
 {
-    const int width = std::max(1, RoundPixel(m_model.m_lineWeight * m_scaleX));
+    const int width = m_penWidth.value_or(std::max(1, RoundPixel(m_model.m_lineWeight * m_scaleX)));
     std::array<std::array<std::uint32_t, 2>, SeriesCount> pixels{};
     for (const Series series : AllSeries)
         pixels[Index(series)] = {Pixel(series, false), Pixel(series, true)};
@@ -186,8 +223,13 @@ void CChartPainter::PaintFills()
 
 void CChartPainter::PaintTimeStrip(QImage& target, int top)
 {
-    const ChartSizes sizes = m_model.Sizes();
     CScaledPainter painter(target, m_font, m_scaleX, m_scaleY);
+    PaintTimeStrip(painter, top);
+}
+
+void CChartPainter::PaintTimeStrip(CScaledPainter& painter, int top)
+{
+    const ChartSizes sizes = m_model.Sizes();
     Fill(painter, StripGround(sizes, top), ChartColour::Background);
     if (m_model.Count() < 1)
         return;

@@ -33,6 +33,8 @@ public:
     CChartPainter(const CChartModel& model, const ChartColours& colours, const QFont& font);
 
     void SetScale(double scaleX, double scaleY);
+    /// Curves are drawn so many device pixels wide, whatever the chart's own line weight is.
+    void SetPenWidth(int pixels) { m_penWidth = pixels; }
 
     /// The chart layer from row `m_scrollY` on. The picture must be as wide as the chart and at
     /// least as high as the rows that are shown.
@@ -47,10 +49,20 @@ public:
     void Compose(QPainter& painter, const QImage& chart, const QImage& strip,
                  const std::optional<std::pair<int, int>>& selection);
 
-private:
+    // --- the parts of it, for a page that needs no layers ---
+
+    /// The chart layer's ground and value axis.
+    void PaintAxis(CScaledPainter& painter);
+    /// Grid and curves down to above the device row `bottom`, through pictures that take no more
+    /// than `PageBandBytes`. False if such a picture can not be made.
+    [[nodiscard]] bool PaintCurves(CScaledPainter& painter, int bottom);
+    void PaintTimeStrip(CScaledPainter& painter, int top);
+    /// What lies over the layers.
     void PaintOver(CScaledPainter& painter, const std::optional<std::pair<int, int>>& selection);
-    void PaintValueTicks(CScaledPainter& painter);
+
+private:
     void PaintCurves(QImage& target, bool equalRunAlone);
+    void WalkLines(const ChartRect& area, bool equalRunAlone);
     [[nodiscard]] bool IsMuch(const ChartRect& area) const;
     void PaintGrid();
     void PaintStrokes();
@@ -63,6 +75,7 @@ private:
     QFont m_font;
     double m_scaleX = 1.0;
     double m_scaleY = 1.0;
+    std::optional<int> m_penWidth;
     CPlotRaster m_raster;
     std::vector<ChartStroke> m_strokes;
     std::vector<ChartBarFill> m_fills;

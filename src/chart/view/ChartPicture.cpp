@@ -34,14 +34,15 @@ int TitleHeight(int labelHeight)
 
 /// Makes the painter's font so narrow that all names fit into `room` device pixels, as far as they
 /// can still be read. Gives the length of the longest.
-int FitNames(QPainter& painter, int room)
+int FitNames(CScaledPainter& scaled, int room)
 {
+    QPainter& painter = scaled.Painter();
     constexpr int Narrowest = 60;
     constexpr int Plain = 100;
-    const auto longest = [&painter] {
+    const auto longest = [&scaled] {
         int length = 1;
         for (const StringId name : LegendNames)
-            length = std::max(length, painter.fontMetrics().horizontalAdvance(Text(name)));
+            length = std::max(length, scaled.TextWidth(Text(name)));
         return length;
     };
     if (const int length = longest(); length > room) {
@@ -83,8 +84,8 @@ void PaintLegend(CScaledPainter& painter, const ChartRect& rect, const ChartColo
     constexpr int LineGap = 8;
     constexpr int ShortestLine = 20;
     painter.Painter().save();
-    const int longest = FitNames(painter.Painter(),
-                                 painter.DeviceX(rect.right - rect.left - LineGap - ShortestLine));
+    const int longest =
+        FitNames(painter, painter.DeviceX(rect.right - rect.left - LineGap - ShortestLine));
     const int lineLeft = rect.left + RoundPixel(longest / painter.ScaleX()) + LineGap;
     int top = rect.top;
     for (const Series series : AllSeries) {

@@ -56,6 +56,12 @@ public:
     bool BeginAreaSelection();
     void CancelAreaSelection();
 
+    /// Size of the printed chart before it is scaled, in pixels of the screen.
+    [[nodiscard]] QSize GetNaturalSize() const;
+    /// Draws the chart's page from the device's left top on, `width` by `height` device pixels
+    /// large. False if memory does not allow it.
+    [[nodiscard]] bool PrintChart(QPainter& device, int width, int height) const;
+
     /// What the list and the gauge have to say.
     void OnMeasureGraph(MeasureGraphCode code, int argument);
 

@@ -28,9 +28,13 @@ CScaledPainter::CScaledPainter(QPainter& painter, const QFont& font, double scal
 
 void CScaledPainter::TakeFont(const QFont& font)
 {
-    QFont scaled = font;
-    scaled.setPixelSize(std::max(1, RoundPixel(font.pixelSize() * m_scaleY)));
-    m_painter->setFont(scaled);
+    const auto scaled = [&font](double scale) {
+        QFont sized = font;
+        sized.setPixelSize(std::max(1, RoundPixel(font.pixelSize() * scale)));
+        return sized;
+    };
+    m_painter->setFont(scaled(m_scaleY));
+    m_rotatedFont = scaled(m_scaleX);
 }
 
 int CScaledPainter::DeviceX(int x) const
@@ -68,19 +72,42 @@ void CScaledPainter::DrawTextScaled(const QString& text, int left, int top, int 
     if (text.isEmpty())
         return;
     m_painter->setPen(ToColour(colour));
-    m_painter->drawText(DeviceRect(left, top, right, bottom),
-                        static_cast<int>(side) | static_cast<int>(Qt::AlignVCenter) |
-                            static_cast<int>(Qt::TextDontClip) |
-                            static_cast<int>(Qt::TextSingleLine),
-                        PrintableText(text));
+    DrawStretched(DeviceRect(left, top, right, bottom), m_scaleX / m_scaleY,
+                  side | Qt::AlignVCenter, PrintableText(text));
+}
+
+int CScaledPainter::TextWidth(const QString& text) const
+{
+    return RoundPixel(m_painter->fontMetrics().horizontalAdvance(PrintableText(text)) * m_scaleX /
+                      m_scaleY);
+}
+
+/// Text whose letters are `stretch` times as wide as the font has them.
+void CScaledPainter::DrawStretched(const QRect& place, double stretch, Qt::Alignment side,
+                                   const QString& text)
+{
+    const int flags = static_cast<int>(side.toInt()) | static_cast<int>(Qt::TextDontClip) |
+                      static_cast<int>(Qt::TextSingleLine);
+    if (stretch == 1.0) {
+        m_painter->drawText(place, flags, text);
+        return;
+    }
+    m_painter->save();
+    m_painter->translate(place.topLeft());
+    m_painter->scale(stretch, 1.0);
+    m_painter->drawText(QRectF(0.0, 0.0, place.width() / stretch, place.height()), flags, text);
+    m_painter->restore();
 }
 
 int CScaledPainter::DrawRotatedText(int x, int y, Vertical alignment, const QString& text,
                                     ColourRef colour)
 {
     const QString shown = PrintableText(text);
+    m_painter->save();
+    m_painter->setFont(m_rotatedFont);
     const QFontMetrics metrics = m_painter->fontMetrics();
-    const int length = metrics.horizontalAdvance(shown);
+    const double stretch = m_scaleY / m_scaleX;
+    const int length = RoundPixel(metrics.horizontalAdvance(shown) * stretch);
     const int height = metrics.height();
     int column = DeviceX(x);
     int end = DeviceY(y);
@@ -98,15 +125,11 @@ int CScaledPainter::DrawRotatedText(int x, int y, Vertical alignment, const QStr
         end += length;
         break;
     }
-    m_painter->save();
     m_painter->translate(column, end);
     m_painter->rotate(-90.0);
     m_painter->fillRect(0, 0, length, height, Qt::white);
     m_painter->setPen(ToColour(colour));
-    m_painter->drawText(QRect(0, 0, length, height),
-                        static_cast<int>(Qt::AlignLeft) | static_cast<int>(Qt::TextDontClip) |
-                            static_cast<int>(Qt::TextSingleLine),
-                        shown);
+    DrawStretched({0, 0, length, height}, stretch, Qt::AlignLeft, shown);
     m_painter->restore();
     return static_cast<int>(std::ceil(length / m_scaleY));
 }

@@ -42,6 +42,9 @@ public:
     /// A veil of `colour` over an area, `alpha` of 255.
     void BlendRectScaled(int left, int top, int right, int bottom, ColourRef colour, int alpha);
 
+    /// Length in device pixels of level text in the present font.
+    [[nodiscard]] int TextWidth(const QString& text) const;
+
     [[nodiscard]] double ScaleX() const { return m_scaleX; }
     [[nodiscard]] double ScaleY() const { return m_scaleY; }
     [[nodiscard]] int DeviceX(int x) const;
@@ -51,11 +54,13 @@ public:
 private:
     void TakeFont(const QFont& font);
     [[nodiscard]] QRect DeviceRect(int left, int top, int right, int bottom) const;
+    void DrawStretched(const QRect& place, double stretch, Qt::Alignment side, const QString& text);
 
     double m_scaleX;
     double m_scaleY;
     std::optional<QPainter> m_own; ///< where the target is a picture
     QPainter* m_painter;
+    QFont m_rotatedFont; ///< of vertical text, whose height goes by the columns
 };
 
 } // namespace skeldon

@@ -118,6 +118,12 @@ std::optional<QString> CDesktopPrompts::AskSavePath(QWidget* parent, const FileQ
     return RunFileDialog(dialog, question);
 }
 
+bool CDesktopPrompts::RunDialog(QDialog& dialog)
+{
+    const CUsualCursor usual;
+    return dialog.exec() == QDialog::Accepted;
+}
+
 void CDesktopPrompts::OpenPage(const QUrl& page)
 {
     QDesktopServices::openUrl(page);

@@ -11,6 +11,7 @@ public:
     Answer ShowBox(QWidget* parent, BoxKind kind, const QString& text) override;
     std::optional<QString> AskOpenPath(QWidget* parent, const FileQuestion& question) override;
     std::optional<QString> AskSavePath(QWidget* parent, const FileQuestion& question) override;
+    bool RunDialog(QDialog& dialog) override;
     void OpenPage(const QUrl& page) override;
     void Beep() override;
     void BeepFailure() override;

@@ -5,6 +5,7 @@
 
 #include <optional>
 
+class QDialog;
 class QUrl;
 class QWidget;
 
@@ -50,6 +51,8 @@ public:
     virtual std::optional<QString> AskOpenPath(QWidget* parent, const FileQuestion& question) = 0;
     /// A path to write to; asks nothing about a file that is already there. Nothing when cancelled.
     virtual std::optional<QString> AskSavePath(QWidget* parent, const FileQuestion& question) = 0;
+    /// Runs a dialog of the program's own until it is closed; true if that was by OK.
+    virtual bool RunDialog(QDialog& dialog) = 0;
     /// Opens a page in the desktop's viewer; silent where there is none.
     virtual void OpenPage(const QUrl& page) = 0;
     /// The information beep.

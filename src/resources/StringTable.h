@@ -496,6 +496,9 @@ enum class StringId
     PrintCopies,
     PrintFirstLine,
     PrintLastLine,
+    PrintToPdf,
+    PrintFilterPdf,
+    PrintFailed,
 
     Count,
 };

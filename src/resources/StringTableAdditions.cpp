@@ -101,6 +101,10 @@ constexpr StringEntry Entries[] = {
      QT_TRANSLATE_NOOP3("StringTable", "Number of &copies :", "PrintCopies")},
     {StringId::PrintFirstLine, QT_TRANSLATE_NOOP3("StringTable", "First line", "PrintFirstLine")},
     {StringId::PrintLastLine, QT_TRANSLATE_NOOP3("StringTable", "Last line", "PrintLastLine")},
+    {StringId::PrintToPdf, QT_TRANSLATE_NOOP3("StringTable", "PDF file", "PrintToPdf")},
+    {StringId::PrintFilterPdf,
+     QT_TRANSLATE_NOOP3("StringTable", "PDF file(pdf)|*.pdf|All|*.*|", "PrintFilterPdf")},
+    {StringId::PrintFailed, QT_TRANSLATE_NOOP3("StringTable", "Failed to print.", "PrintFailed")},
 };
 
 static_assert(FollowsEnum(Entries));

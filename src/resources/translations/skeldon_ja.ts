@@ -2254,5 +2254,20 @@ Failed to write.
         <comment>PrintLastLine</comment>
         <translation>最後の行</translation>
     </message>
+    <message>
+        <source>PDF file</source>
+        <comment>PrintToPdf</comment>
+        <translation>PDF ファイル</translation>
+    </message>
+    <message>
+        <source>PDF file(pdf)|*.pdf|All|*.*|</source>
+        <comment>PrintFilterPdf</comment>
+        <translation>PDF ファイル(pdf)|*.pdf|すべて|*.*|</translation>
+    </message>
+    <message>
+        <source>Failed to print.</source>
+        <comment>PrintFailed</comment>
+        <translation>印刷に失敗しました。</translation>
+    </message>
 </context>
 </TS>

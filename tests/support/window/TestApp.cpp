@@ -40,6 +40,20 @@ std::optional<QString> CScriptedPrompts::AskSavePath(QWidget* /*parent*/,
     return NextPath();
 }
 
+bool CScriptedPrompts::RunDialog(QDialog& dialog)
+{
+    if (m_dialogs.empty())
+        return false;
+    const auto user = std::move(m_dialogs.front());
+    m_dialogs.pop_front();
+    dialog.show();
+    if (user(dialog))
+        dialog.accept();
+    const bool isAccepted = dialog.result() == QDialog::Accepted && !dialog.isVisible();
+    dialog.hide();
+    return isAccepted;
+}
+
 QStringList CScriptedPrompts::Boxes() const
 {
     QStringList texts;

@@ -2,6 +2,7 @@
 
 #include "app/SkeldonApp.h"
 
+#include <QDialog>
 #include <QSet>
 #include <QTemporaryDir>
 #include <QUrl>
@@ -29,13 +30,14 @@ struct Prompt
 };
 
 /// Answers in place of the user: boxes by the next prepared answer, or as Enter would; dialogs by
-/// the next prepared path, or by Cancel.
+/// the next prepared path, or by Cancel; dialogs of the program's own as prepared.
 class CScriptedPrompts final : public CPrompts
 {
 public:
     Answer ShowBox(QWidget* parent, BoxKind kind, const QString& text) override;
     std::optional<QString> AskOpenPath(QWidget* parent, const FileQuestion& question) override;
     std::optional<QString> AskSavePath(QWidget* parent, const FileQuestion& question) override;
+    bool RunDialog(QDialog& dialog) override;
     void OpenPage(const QUrl& page) override { m_pages.push_back(page); }
     void Beep() override { ++m_beeps; }
     void BeepFailure() override { ++m_failureBeeps; }
@@ -47,6 +49,9 @@ public:
     std::vector<QUrl> m_pages;
     std::deque<Answer> m_answers;
     std::deque<std::optional<QString>> m_paths;
+    /// What the user does in the next dialog, which is open then; true closes it by OK if it lets
+    /// itself be closed so. Without one it is cancelled.
+    std::deque<std::function<bool(QDialog&)>> m_dialogs;
     std::function<void(const Prompt&)> m_whileShown; ///< what happens while a prompt stands
     int m_beeps = 0;
     int m_failureBeeps = 0;

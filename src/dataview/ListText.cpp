@@ -1,5 +1,6 @@
 #include "dataview/ListText.h"
 
+#include "base/AccelerationUnits.h"
 #include "base/NumberFormat.h"
 
 #include <array>
@@ -10,8 +11,6 @@ namespace skeldon {
 
 namespace {
 
-constexpr double MetresPerG = 9.8;
-constexpr double GalPerG = 980.0;
 constexpr std::size_t CellRoom = FixedTextLimit + 8;
 using CellBuffer = std::array<char, CellRoom>;
 
@@ -134,7 +133,7 @@ QString CListText::Acceleration(double value) const
 {
     switch (m_unit) {
     case DispUnit::MetresPerSecondSquared:
-        return Fixed<4, 4>(value * MetresPerG);
+        return Fixed<4, 4>(value * MetresPerSecond2PerG);
     case DispUnit::Gal:
         return Fixed<6, 2>(value * GalPerG);
     case DispUnit::G:

@@ -1,5 +1,6 @@
 #include "files/CsvText.h"
 
+#include "base/AccelerationUnits.h"
 #include "base/NumberFormat.h"
 #include "files/TimeText.h"
 
@@ -11,8 +12,6 @@ namespace skeldon {
 
 namespace {
 
-constexpr double MetresPerSecondSquaredPerG = 9.8;
-constexpr double GalPerG = 980.0;
 constexpr double RavelinUnitsPerG = 10.0;
 
 /// Moves the text from `begin` to `end` to the right until it is `width` characters long.
@@ -136,7 +135,7 @@ char* CCsvText::WriteNormal(char* out, const CMeasureRecord& record)
         out = WriteAxes<3>(out, record, 1.0, 3);
         break;
     case CsvUnit::MetresPerSecondSquared:
-        out = WriteAxes<4>(out, record, MetresPerSecondSquaredPerG, 4);
+        out = WriteAxes<4>(out, record, MetresPerSecond2PerG, 4);
         break;
     case CsvUnit::Gal:
         out = WriteAxes<2>(out, record, GalPerG, 6);

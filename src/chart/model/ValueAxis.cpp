@@ -1,5 +1,6 @@
 #include "chart/model/ValueAxis.h"
 
+#include "base/AccelerationUnits.h"
 #include "base/NumberFormat.h"
 
 #include <cmath>
@@ -12,10 +13,6 @@ namespace {
 // downward it is not.
 constexpr double HighestTick = 50.0001;
 constexpr double LowestTick = -50.0;
-
-// Not the standard gravity: the recorders' manuals count with these.
-constexpr double MetresPerSecond2PerG = 9.8;
-constexpr double GalPerG = 980.0;
 
 constexpr double DegreesPerUnit = 2.0;
 constexpr double HighestDegrees = 50.001;

@@ -2,8 +2,8 @@
 #include "app/CsvSettings.h"
 #include "app/DataFolder.h"
 #include "app/OnlineSeconds.h"
-#include "files/LessPower.h"
 #include "resources/Translation.h"
+#include "support/LessPower.h"
 
 #include <QDir>
 #include <QFile>
@@ -267,7 +267,7 @@ private slots:
         QVERIFY(QFile::setPermissions(m_folder->path(), Readable | Enterable));
         QVERIFY(QFile::setPermissions(File(), {}));
         {
-            const CLessPower less;
+            const test::CLessPower less;
             CSettings settings(File());
             QCOMPARE(settings.GetInt(SystemSection, u"DispUnit"_s, 9), 9);
             settings.WriteInt(SystemSection, u"DispUnit"_s, 1);
@@ -286,7 +286,7 @@ private slots:
         QVERIFY(QFile::setPermissions(File(), Readable));
         QVERIFY(QFile::setPermissions(m_folder->path(), Readable | Enterable));
         {
-            const CLessPower less;
+            const test::CLessPower less;
             CSettings settings(File());
             QCOMPARE(settings.GetInt(SystemSection, u"DispUnit"_s, 9), 2);
             settings.WriteInt(SystemSection, u"DispUnit"_s, 1);

@@ -1,15 +1,16 @@
 // What is no data file, or one that no program wrote.
 #include "files/FileTexts.h"
-#include "files/LessPower.h"
+#include "support/LessPower.h"
 
 #include <cerrno>
 #include <cstdio>
+#include <fstream>
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace skeldon {
+namespace skeldon::test {
 namespace {
 
 constexpr std::size_t Mebibyte = std::size_t{1} << 20;
@@ -35,8 +36,8 @@ void ExpectUnreadable(const std::filesystem::path& path, std::errc reason)
 
 TEST(ReadBadFile, SaysWhyAPathCanNotBeRead)
 {
-    const CTempFolder folder;
-    WriteBytes(folder / "file", "x");
+    const CTemporaryFolder folder;
+    WriteText(folder / "file", "x");
     std::filesystem::create_symlink("loop", folder / "loop");
     ExpectUnreadable(folder / "missing.skd", std::errc::no_such_file_or_directory);
     ExpectUnreadable("", std::errc::no_such_file_or_directory);
@@ -47,8 +48,8 @@ TEST(ReadBadFile, SaysWhyAPathCanNotBeRead)
 
 TEST(ReadBadFile, SaysThatAFileMayNotBeRead)
 {
-    const CTempFolder folder;
-    WriteBytes(folder / "a.skd", NewFile(""));
+    const CTemporaryFolder folder;
+    WriteText(folder / "a.skd", NewFile(""));
     std::filesystem::permissions(folder.Path(), std::filesystem::perms(0755));
     std::filesystem::permissions(folder / "a.skd", std::filesystem::perms::none);
     const CLessPower asSomebody;
@@ -57,14 +58,14 @@ TEST(ReadBadFile, SaysThatAFileMayNotBeRead)
 
 TEST(ReadBadFile, RefusesAFolder)
 {
-    const CTempFolder folder;
+    const CTemporaryFolder folder;
     ExpectUnreadable(folder.Path(), std::errc::is_a_directory);
     ExpectUnreadable("/proc/self", std::errc::is_a_directory);
 }
 
 TEST(ReadBadFile, RefusesPipesAndDevicesWithoutWaitingForThem)
 {
-    const CTempFolder folder;
+    const CTemporaryFolder folder;
     ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
     ExpectUnreadable(folder / "pipe", std::errc::not_supported);
     ExpectUnreadable("/dev/null", std::errc::not_supported);
@@ -107,18 +108,18 @@ std::size_t MemoryOf(std::string_view what)
 void WriteWithHole(const std::filesystem::path& path, const std::string& head, std::size_t size,
                    const std::string& tail)
 {
-    WriteBytes(path, head);
+    WriteText(path, head);
     std::filesystem::resize_file(path, head.size() + size);
     std::ofstream(path, std::ios::binary | std::ios::app) << tail;
 }
 
 TEST(ReadLongLine, TakesNoMemoryForALineThatSaysNothing)
 {
-    const CTempFolder folder;
+    const CTemporaryFolder folder;
     constexpr std::size_t Hole = 256 * Mebibyte;
     WriteWithHole(folder / "a.skd", NewFile("<hazard>5</hazard>\n", Record("10") + "<record>\n"),
                   Hole, "\n<x>30</x>\n" + Record("20") + Record("40"));
-    WriteBytes("/proc/self/clear_refs", "5"); // starts the peak anew
+    WriteText("/proc/self/clear_refs", "5"); // starts the peak anew
     const std::size_t before = MemoryOf("VmRSS:");
     CMeasureData data;
     ASSERT_TRUE(ReadFile(data, folder / "a.skd"));
@@ -133,7 +134,7 @@ TEST(ReadLongLine, TakesNoMemoryForALineThatSaysNothing)
 
 TEST(ReadLongLine, SaysThatAValueIsTooLong)
 {
-    const CTempFolder folder;
+    const CTemporaryFolder folder;
     const auto result = [&](const std::string& head) {
         WriteWithHole(folder / "a.skd", head, 3 * Mebibyte, "</x>\n" + Record());
         CMeasureData data;
@@ -204,4 +205,4 @@ TEST(ReadLongFile, ReadsRecordsThatEndFarApart)
 }
 
 } // namespace
-} // namespace skeldon
+} // namespace skeldon::test

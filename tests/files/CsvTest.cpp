@@ -1,12 +1,13 @@
 #include "base/ZoneScope.h"
 #include "files/CsvFile.h"
-#include "files/TempFolder.h"
+#include "support/TemporaryFolder.h"
 
+#include <algorithm>
 #include <limits>
 
 #include <gtest/gtest.h>
 
-namespace skeldon {
+namespace skeldon::test {
 namespace {
 
 /// The line of the examples: 2009/05/01 12:30:15.250.
@@ -189,16 +190,16 @@ TEST(CsvRow, OutsideTheDataIsEmpty)
 
 TEST(ExportCsv, WritesHeaderAndRowsWithCrLf)
 {
-    const CTempFolder folder;
+    const CTemporaryFolder folder;
     ASSERT_FALSE(ExportCsv(Sample(), folder / "a.csv", {}));
-    EXPECT_EQ(ReadBytes(folder / "a.csv"),
+    EXPECT_EQ(ReadText(folder / "a.csv"),
               "Date/Time,X axis(G),Y axis(G),Z axis(G),Rsltnt(G),Temperature(C),Humidity(%)\r\n"
               "2009/05/01 12.30.15.250,1.200 ,0.500 ,-0.250 ,1.324 ,23.5 ,45.0 \r\n");
 }
 
 TEST(ExportCsv, ReplacesTheExtension)
 {
-    const CTempFolder folder;
+    const CTemporaryFolder folder;
     for (const char* const name : {"a.txt", "b", "c.CSV", "d.e.f"})
         ASSERT_FALSE(ExportCsv(Sample(), folder / name, {}));
     EXPECT_EQ(folder.Names(), (std::vector<std::string>{"a.csv", "b.csv", "c.CSV", "d.e.csv"}));
@@ -206,14 +207,14 @@ TEST(ExportCsv, ReplacesTheExtension)
 
 TEST(WriteCsvFile, KeepsTheNameItIsGiven)
 {
-    const CTempFolder folder;
+    const CTemporaryFolder folder;
     ASSERT_FALSE(WriteCsvFile(Sample(), folder / "a.txt", {}));
     EXPECT_EQ(folder.Names(), std::vector<std::string>{"a.txt"});
 }
 
 TEST(ExportCsv, WritesMarkedOrExtractedLinesAlone)
 {
-    const CTempFolder folder;
+    const CTemporaryFolder folder;
     CMeasureData data;
     constexpr std::uint16_t All[] = {0x0000, 0x0001, 0x0010, 0x0801, 0x8000, 0x0200};
     for (const std::uint16_t flags : All)
@@ -222,7 +223,7 @@ TEST(ExportCsv, WritesMarkedOrExtractedLinesAlone)
     options.ravelin = true;
     const auto lines = [&](const CsvFilter& filter) {
         EXPECT_FALSE(ExportCsv(data, folder / "a.csv", options, {}, filter));
-        const std::string text = ReadBytes(folder / "a.csv");
+        const std::string text = ReadText(folder / "a.csv");
         return std::count(text.begin(), text.end(), '\n') - 1;
     };
     EXPECT_EQ(lines({}), 6); // deleted lines among them
@@ -233,20 +234,20 @@ TEST(ExportCsv, WritesMarkedOrExtractedLinesAlone)
 
 TEST(ExportCsv, OfNoLinesHoldsTheHeader)
 {
-    const CTempFolder folder;
+    const CTemporaryFolder folder;
     CsvOptions options;
     options.ravelin = true;
     ASSERT_FALSE(ExportCsv(CMeasureData(), folder / "a.csv", options));
-    EXPECT_EQ(ReadBytes(folder / "a.csv"), "date time,x(G),y(G),z(G),temperature(C)\r\n");
+    EXPECT_EQ(ReadText(folder / "a.csv"), "date time,x(G),y(G),z(G),temperature(C)\r\n");
 }
 
 TEST(ExportCsv, SaysWhyItFailed)
 {
-    const CTempFolder folder;
+    const CTemporaryFolder folder;
     EXPECT_EQ(ExportCsv(Sample(), folder / "none/a.csv", {}), std::errc::no_such_file_or_directory);
     std::filesystem::create_directory(folder / "b.csv");
     EXPECT_EQ(ExportCsv(Sample(), folder / "b.txt", {}), std::errc::is_a_directory);
 }
 
 } // namespace
-} // namespace skeldon
+} // namespace skeldon::test

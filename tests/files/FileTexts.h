@@ -2,12 +2,13 @@
 
 #include "data/MeasureData.h"
 #include "files/DataFile.h"
-#include "files/TempFolder.h"
+#include "support/TemporaryFolder.h"
 
+#include <stdexcept>
 #include <string>
 #include <string_view>
 
-namespace skeldon {
+namespace skeldon::test {
 
 // Pieces of data files, written as people would write them: LF, no indents.
 
@@ -36,10 +37,10 @@ inline std::string OldFile(std::string_view header, std::string_view records = {
 }
 
 /// The outcome of reading `text`; `data` takes what it holds.
-inline DataFileResult ReadText(CMeasureData& data, std::string_view text)
+inline DataFileResult ReadDataText(CMeasureData& data, std::string_view text)
 {
-    const CTempFolder folder;
-    WriteBytes(folder / "a.skd", text);
+    const CTemporaryFolder folder;
+    WriteText(folder / "a.skd", text);
     return ReadFile(data, folder / "a.skd");
 }
 
@@ -47,9 +48,9 @@ inline DataFileResult ReadText(CMeasureData& data, std::string_view text)
 inline CMeasureData DataOfText(std::string_view text)
 {
     CMeasureData data;
-    if (const DataFileResult result = ReadText(data, text); !result)
+    if (const DataFileResult result = ReadDataText(data, text); !result)
         throw std::runtime_error(DescribeDataFileError(result));
     return data;
 }
 
-} // namespace skeldon
+} // namespace skeldon::test

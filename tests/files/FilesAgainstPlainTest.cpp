@@ -5,11 +5,11 @@
 #include "files/PlainWriter.h"
 #include "files/RandomFiles.h"
 #include "files/StringOutput.h"
-#include "files/TempFolder.h"
+#include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
-namespace skeldon {
+namespace skeldon::test {
 namespace {
 
 constexpr CalendarSeconds SaveTime = 1234567890;
@@ -17,7 +17,7 @@ constexpr CalendarSeconds SaveTime = 1234567890;
 /// Reads `text` both ways. True if it is a data file.
 bool ReadBothWays(const std::filesystem::path& path, const std::string& text)
 {
-    WriteBytes(path, text);
+    WriteText(path, text);
     CMeasureData data;
     data.m_title = text.size() % 2 == 0 ? "" : "of an earlier file";
     const PlainFile plain = PlainRead(text, data.m_title);
@@ -32,7 +32,7 @@ bool ReadBothWays(const std::filesystem::path& path, const std::string& text)
 
 TEST(ReadFileAgainstPlain, ReadsThousandsOfOddFilesAlike)
 {
-    const CTempFolder folder;
+    const CTemporaryFolder folder;
     int good = 0;
     for (std::uint64_t seed = 1; seed <= 2000; ++seed) {
         SCOPED_TRACE(seed);
@@ -52,7 +52,7 @@ TEST(ReadFileAgainstPlain, ReadsThousandsOfOddFilesAlike)
 
 TEST(ReadFileAgainstPlain, ReadsFilesOfManyBlocksAlike)
 {
-    const CTempFolder folder;
+    const CTemporaryFolder folder;
     for (std::uint64_t seed = 1; seed <= 4; ++seed) {
         SCOPED_TRACE(seed);
         CRandomFiles random(seed);
@@ -71,7 +71,7 @@ TEST(ReadFileAgainstPlain, ReadsFilesOfManyBlocksAlike)
 
 TEST(ReadFileAgainstPlain, ReadsAFileCutAnywhereAlike)
 {
-    const CTempFolder folder;
+    const CTemporaryFolder folder;
     CRandomFiles random(7);
     CMeasureData data = random.Data(6, false);
     data.AddRecord(CMeasureRecord(SaveTime));
@@ -86,7 +86,7 @@ TEST(ReadFileAgainstPlain, ReadsAFileCutAnywhereAlike)
 
 TEST(ReadFileAgainstPlain, ReadsEveryChangeOfOneByteInARecordAlike)
 {
-    const CTempFolder folder;
+    const CTemporaryFolder folder;
     CRandomFiles random(12);
     CMeasureData data;
     while (data.GetSize() < 6)
@@ -124,19 +124,19 @@ TEST(WriteFileAgainstPlain, WritesThousandsOfDataSetsAlike)
 
 TEST(WriteFileAgainstPlain, WritesAFileOfManyPiecesAlike)
 {
-    const CTempFolder folder;
+    const CTemporaryFolder folder;
     CRandomFiles random(8);
     CMeasureData data = random.Data(1, false);
     while (data.GetSize() < 8000)
         data.AddRecords(random.Data(100, true).Records());
     ASSERT_FALSE(WriteFile(data, folder / "a.skd", SaveTime));
-    EXPECT_TRUE(ReadBytes(folder / "a.skd") == PlainDataFile(data, SaveTime));
+    EXPECT_TRUE(ReadText(folder / "a.skd") == PlainDataFile(data, SaveTime));
     EXPECT_EQ(folder.Names(), std::vector<std::string>{"a.skd"});
 }
 
 TEST(WriteFileAgainstPlain, WritesWhatItReadAgainToTheSameBytes)
 {
-    const CTempFolder folder;
+    const CTemporaryFolder folder;
     for (std::uint64_t seed = 1; seed <= 300; ++seed) {
         SCOPED_TRACE(seed);
         CRandomFiles random(seed);
@@ -147,7 +147,7 @@ TEST(WriteFileAgainstPlain, WritesWhatItReadAgainToTheSameBytes)
         data.m_hostNumber = 5;
         data.m_hasHumidity = data.m_hasHumidity && !data.IsEmpty();
         const std::string text = PlainDataFile(data, SaveTime);
-        WriteBytes(folder / "a.skd", text);
+        WriteText(folder / "a.skd", text);
         CMeasureData read;
         read.m_title = data.m_title;
         ASSERT_TRUE(ReadFile(read, folder / "a.skd"));
@@ -189,15 +189,15 @@ TEST(CsvAgainstPlain, WritesAllFormsOfRandomDataAlike)
 
 TEST(CsvAgainstPlain, WritesAFileOfManyPiecesAlike)
 {
-    const CTempFolder folder;
+    const CTemporaryFolder folder;
     CRandomFiles random(9);
     CMeasureData data = random.Data(1, false);
     data.m_hasHumidity = true;
     while (data.GetSize() < 20000)
         data.AddRecords(random.Data(100, true).Records());
     ASSERT_FALSE(ExportCsv(data, folder / "a.csv", {}));
-    EXPECT_TRUE(ReadBytes(folder / "a.csv") == PlainCsvFile(data, {}, {}));
+    EXPECT_TRUE(ReadText(folder / "a.csv") == PlainCsvFile(data, {}, {}));
 }
 
 } // namespace
-} // namespace skeldon
+} // namespace skeldon::test

@@ -2,7 +2,7 @@
 // contents are whole on disk.
 #include "files/DataFile.h"
 #include "files/StringOutput.h"
-#include "files/TempFolder.h"
+#include "support/TemporaryFolder.h"
 
 #include <cerrno>
 #include <chrono>
@@ -16,7 +16,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-namespace skeldon {
+namespace skeldon::test {
 namespace {
 
 CMeasureData Lines(std::size_t count, double x)
@@ -40,7 +40,7 @@ std::string TextOf(const CMeasureData& data)
 /// Contents of `path`, empty where there is none.
 std::string ContentsOf(const std::filesystem::path& path)
 {
-    return std::filesystem::exists(path) ? ReadBytes(path) : std::string();
+    return std::filesystem::exists(path) ? ReadText(path) : std::string();
 }
 
 /// Whether the file system knows files without a name. Where it does not, a kill can leave a copy
@@ -54,7 +54,7 @@ bool KnowsUnnamedFiles(const std::filesystem::path& folder)
 }
 
 /// All that lies beside the file in `folder` goes away but what is kept of it.
-void RemovePassingCopies(const CTempFolder& folder)
+void RemovePassingCopies(const CTemporaryFolder& folder)
 {
     const std::vector<std::string> names = folder.Names();
     const bool isExpected = !KnowsUnnamedFiles(folder.Path());
@@ -89,7 +89,7 @@ struct Pair
 
 TEST(KilledSave, LeavesAWholeFileAtAnyRandomMoment)
 {
-    const CTempFolder folder;
+    const CTemporaryFolder folder;
     const std::filesystem::path path = folder / "a.skd";
     const Pair pair(4000, 2500);
     ASSERT_FALSE(WriteFile(pair.first, path, 0));
@@ -154,7 +154,7 @@ bool SaveKilledAt(int call, const CMeasureData& data, const std::filesystem::pat
 
 TEST(KilledSave, LeavesAWholeFileAtEachOfItsSystemCalls)
 {
-    const CTempFolder folder;
+    const CTemporaryFolder folder;
     const std::filesystem::path path = folder / "a.skd";
     const Pair pair(20, 10);
     int call = 0;
@@ -162,7 +162,7 @@ TEST(KilledSave, LeavesAWholeFileAtEachOfItsSystemCalls)
     bool sawKept = false;
     for (; killed && call < 1000; ++call) {
         SCOPED_TRACE(call);
-        WriteBytes(path, pair.firstText);
+        WriteText(path, pair.firstText);
         killed = SaveKilledAt(call, pair.second, path);
         const std::string now = ContentsOf(path);
         const std::string kept = ContentsOf(path.string() + ".bak");
@@ -174,25 +174,25 @@ TEST(KilledSave, LeavesAWholeFileAtEachOfItsSystemCalls)
         ASSERT_EQ(folder.Names(), std::vector<std::string>{"a.skd"});
     }
     EXPECT_FALSE(killed);
-    EXPECT_EQ(ReadBytes(path), pair.secondText);
+    EXPECT_EQ(ReadText(path), pair.secondText);
     EXPECT_TRUE(sawKept);
     EXPECT_GT(call, 10);
 }
 
 TEST(KilledSave, KeepsWhatAnEarlierKillLeft)
 {
-    const CTempFolder folder;
+    const CTemporaryFolder folder;
     const std::filesystem::path path = folder / "a.skd";
     const Pair pair(20, 10);
     bool killed = true;
     for (int call = 0; killed && call < 1000; ++call) {
         SCOPED_TRACE(call);
-        WriteBytes(path, "part of a file");
-        WriteBytes(path.string() + ".bak", pair.firstText);
+        WriteText(path, "part of a file");
+        WriteText(path.string() + ".bak", pair.firstText);
         killed = SaveKilledAt(call, pair.second, path);
         const std::string kept = ContentsOf(path.string() + ".bak");
         // It goes away only after the new file is whole.
-        ASSERT_TRUE(kept == pair.firstText || (kept.empty() && ReadBytes(path) == pair.secondText));
+        ASSERT_TRUE(kept == pair.firstText || (kept.empty() && ReadText(path) == pair.secondText));
         std::filesystem::remove(path.string() + ".bak1");
         RemovePassingCopies(folder);
     }
@@ -201,4 +201,4 @@ TEST(KilledSave, KeepsWhatAnEarlierKillLeft)
 }
 
 } // namespace
-} // namespace skeldon
+} // namespace skeldon::test

@@ -2,7 +2,7 @@
 // memory sticks do. The calls that they refuse are refused here by a filter on a child's calls.
 #include "files/DataFile.h"
 #include "files/StringOutput.h"
-#include "files/TempFolder.h"
+#include "support/TemporaryFolder.h"
 
 #include <cerrno>
 #include <csignal>
@@ -18,7 +18,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-namespace skeldon {
+namespace skeldon::test {
 namespace {
 
 /// Refuses unnamed files and hard links to this process from now on.
@@ -71,44 +71,44 @@ using Names = std::vector<std::string>;
 
 TEST(SaveOnMemoryStick, LeavesTheNewFileAlone)
 {
-    const CTempFolder folder;
-    WriteBytes(folder / "a.skd", "earlier");
-    WriteBytes(folder / "a.skd.bak", "kept before");
+    const CTemporaryFolder folder;
+    WriteText(folder / "a.skd", "earlier");
+    WriteText(folder / "a.skd.bak", "kept before");
     ASSERT_EQ(SaveOnStick(folder / "a.skd", 3), 0);
     CStringOutput expected;
     ASSERT_FALSE(FormatDataFile(Lines(3), 0, expected));
-    EXPECT_EQ(ReadBytes(folder / "a.skd"), expected.m_text);
+    EXPECT_EQ(ReadText(folder / "a.skd"), expected.m_text);
     EXPECT_EQ(folder.Names(), Names{"a.skd"});
 }
 
 TEST(SaveOnMemoryStick, KeepsTheEarlierFileWhereWritingFails)
 {
-    const CTempFolder folder;
-    WriteBytes(folder / "a.skd", "earlier");
+    const CTemporaryFolder folder;
+    WriteText(folder / "a.skd", "earlier");
     ASSERT_EQ(SaveOnStick(folder / "a.skd", 5000, 300'000), EFBIG);
-    EXPECT_EQ(ReadBytes(folder / "a.skd.bak"), "earlier");
+    EXPECT_EQ(ReadText(folder / "a.skd.bak"), "earlier");
     EXPECT_EQ(folder.Names(), (Names{"a.skd", "a.skd.bak"}));
 }
 
 TEST(SaveOnMemoryStick, NeverOverwritesWhatAnEarlierFailureKept)
 {
-    const CTempFolder folder;
-    WriteBytes(folder / "a.skd", "now");
-    WriteBytes(folder / "a.skd.bak", "kept before");
+    const CTemporaryFolder folder;
+    WriteText(folder / "a.skd", "now");
+    WriteText(folder / "a.skd.bak", "kept before");
     ASSERT_EQ(SaveOnStick(folder / "a.skd", 5000, 300'000), EFBIG);
-    EXPECT_EQ(ReadBytes(folder / "a.skd.bak"), "kept before");
-    EXPECT_EQ(ReadBytes(folder / "a.skd.bak1"), "now");
+    EXPECT_EQ(ReadText(folder / "a.skd.bak"), "kept before");
+    EXPECT_EQ(ReadText(folder / "a.skd.bak1"), "now");
     EXPECT_EQ(folder.Names(), (Names{"a.skd", "a.skd.bak", "a.skd.bak1"}));
 }
 
 TEST(SaveOnMemoryStick, LeavesNothingBehindWhereTheFileCanNotBeKept)
 {
-    const CTempFolder folder;
-    WriteBytes(folder / "a.skd", "earlier, and long");
+    const CTemporaryFolder folder;
+    WriteText(folder / "a.skd", "earlier, and long");
     ASSERT_EQ(SaveOnStick(folder / "a.skd", 1, 5), EFBIG);
-    EXPECT_EQ(ReadBytes(folder / "a.skd"), "earlier, and long");
+    EXPECT_EQ(ReadText(folder / "a.skd"), "earlier, and long");
     EXPECT_EQ(folder.Names(), Names{"a.skd"});
 }
 
 } // namespace
-} // namespace skeldon
+} // namespace skeldon::test

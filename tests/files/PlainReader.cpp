@@ -10,7 +10,7 @@
 
 #include <gtest/gtest.h>
 
-namespace skeldon {
+namespace skeldon::test {
 
 namespace {
 
@@ -252,4 +252,4 @@ void ExpectSame(const CMeasureData& data, const PlainFile& plain)
     }
 }
 
-} // namespace skeldon
+} // namespace skeldon::test

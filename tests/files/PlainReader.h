@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-namespace skeldon {
+namespace skeldon::test {
 
 /// What a data file says, read the plain way: line after line through the whole text, once to
 /// count the records and once to read them, with the runtime's number conversions and a calendar
@@ -38,4 +38,4 @@ PlainFile PlainRead(std::string_view bytes, const std::string& title = {});
 /// Fails the test where a data set is not what `plain` says.
 void ExpectSame(const CMeasureData& data, const PlainFile& plain);
 
-} // namespace skeldon
+} // namespace skeldon::test

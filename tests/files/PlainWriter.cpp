@@ -6,7 +6,7 @@
 #include <cstdarg>
 #include <cstdio>
 
-namespace skeldon {
+namespace skeldon::test {
 
 namespace {
 
@@ -157,4 +157,4 @@ std::string PlainCsvFile(const CMeasureData& data, const CsvOptions& options,
     return WithLineEnds(text);
 }
 
-} // namespace skeldon
+} // namespace skeldon::test

@@ -5,7 +5,7 @@
 
 #include <string>
 
-namespace skeldon {
+namespace skeldon::test {
 
 // The texts of files made the plain way: a formatted print for each piece, a calendar call for each
 // line.
@@ -17,4 +17,4 @@ std::string PlainCsvRow(const CMeasureRecord& record, const CsvOptions& options,
 std::string PlainCsvFile(const CMeasureData& data, const CsvOptions& options,
                          const CsvFilter& filter);
 
-} // namespace skeldon
+} // namespace skeldon::test

@@ -4,7 +4,7 @@
 #include <limits>
 #include <utility>
 
-namespace skeldon {
+namespace skeldon::test {
 
 namespace {
 
@@ -277,4 +277,4 @@ void CRandomFiles::Spoil(std::string& text)
     }
 }
 
-} // namespace skeldon
+} // namespace skeldon::test

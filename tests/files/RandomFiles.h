@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-namespace skeldon {
+namespace skeldon::test {
 
 /// Makes data sets and texts of data files at random, from a seed.
 class CRandomFiles
@@ -50,4 +50,4 @@ private:
     CalendarSeconds m_time = 1230000000;
 };
 
-} // namespace skeldon
+} // namespace skeldon::test

@@ -2,14 +2,14 @@
 
 #include <gtest/gtest.h>
 
-namespace skeldon {
+namespace skeldon::test {
 namespace {
 
 TEST(ReadFile, AcceptsARootLineInAnyLetterCase)
 {
     CMeasureData data;
-    EXPECT_TRUE(ReadText(data, "<RAVELIN_DATA VERSION=\"skeldon 1.0\">\n"));
-    EXPECT_TRUE(ReadText(data, "junk\n\n \t<Ravelin_Data Version=\"1.0\"> \r\n"));
+    EXPECT_TRUE(ReadDataText(data, "<RAVELIN_DATA VERSION=\"skeldon 1.0\">\n"));
+    EXPECT_TRUE(ReadDataText(data, "junk\n\n \t<Ravelin_Data Version=\"1.0\"> \r\n"));
 }
 
 TEST(ReadFile, RefusesWhatHasNoRootLine)
@@ -17,7 +17,7 @@ TEST(ReadFile, RefusesWhatHasNoRootLine)
     for (const std::string_view text :
          {"", "\n\n", "<ravelin_data>\n", "x<ravelin_data version=\"1.0\">\n", "<record>\n"}) {
         CMeasureData data;
-        EXPECT_EQ(ReadText(data, text).error, DataFileError::NotADataFile) << text;
+        EXPECT_EQ(ReadDataText(data, text).error, DataFileError::NotADataFile) << text;
     }
 }
 
@@ -28,7 +28,7 @@ TEST(ReadFile, RefusesAnotherVersion)
         CMeasureData data;
         const std::string text = "<ravelin_data version=" + std::string(end) + "\n" +
                                  std::string(NewRoot) + std::string(EndOfConfiguration);
-        EXPECT_EQ(ReadText(data, text).error, DataFileError::UnknownVersion) << end;
+        EXPECT_EQ(ReadDataText(data, text).error, DataFileError::UnknownVersion) << end;
     }
 }
 
@@ -36,9 +36,9 @@ TEST(ReadFile, TakesAnyEndThatNamesTheOlderVersionAsOlder)
 {
     // The version with its quotes is what counts.
     CMeasureData data;
-    EXPECT_EQ(ReadText(data, "<ravelin_data version=\"OTHER 1.0\">\n").error,
+    EXPECT_EQ(ReadDataText(data, "<ravelin_data version=\"OTHER 1.0\">\n").error,
               DataFileError::UnknownVersion);
-    EXPECT_TRUE(ReadText(data, "<ravelin_data version=\"x\" y=\"1.0\">\n"));
+    EXPECT_TRUE(ReadDataText(data, "<ravelin_data version=\"x\" y=\"1.0\">\n"));
 }
 
 TEST(ReadFile, ReadsEveryKeyOfTheConfiguration)
@@ -109,7 +109,7 @@ TEST(ReadFile, LeavesUnknownWhatTheConfigurationDoesNotSay)
                                            "<endless>\n<temp_nothing>\n<type_num>3</type_num>\n"
                                            "<date_version>1</date_version>\n",
                                            Record("1", "<h>4</h>\n")));
-    ASSERT_TRUE(ReadText(data, NewFile("")));
+    ASSERT_TRUE(ReadDataText(data, NewFile("")));
     EXPECT_EQ(data.m_threshold, -1);
     EXPECT_EQ(data.m_hazard, -1);
     EXPECT_FALSE(data.m_endless);
@@ -158,7 +158,7 @@ TEST(ReadFile, ReadsATitleBeforeTheEndOfTheConfiguration)
 TEST(ReadFile, KeepsTheTitleOfAnEarlierFile)
 {
     CMeasureData data = DataOfText(NewFile("<title>One</title>\n"));
-    ASSERT_TRUE(ReadText(data, NewFile("<title>Two</title>\n")));
+    ASSERT_TRUE(ReadDataText(data, NewFile("<title>Two</title>\n")));
     EXPECT_EQ(data.m_title, "One");
 }
 
@@ -191,8 +191,8 @@ TEST(ReadFile, KnowsNoAttributesAndNoElementsThatShareALine)
 
 TEST(ReadFile, TakesTheNameOfTheFileWithoutItsFolder)
 {
-    const CTempFolder folder;
-    WriteBytes(folder / "Road Test.SKD", NewFile(""));
+    const CTemporaryFolder folder;
+    WriteText(folder / "Road Test.SKD", NewFile(""));
     CMeasureData data;
     ASSERT_TRUE(ReadFile(data, folder / "Road Test.SKD"));
     EXPECT_EQ(data.m_fileName, "Road Test.SKD");
@@ -224,9 +224,9 @@ TEST(ReadOlderFile, EndsItsHeaderAtTheGraphSetting)
 
 TEST(ReadOlderFile, IsToldByItsRootLineAndNotByItsName)
 {
-    const CTempFolder folder;
-    WriteBytes(folder / "a.skd", OldFile("<hazard>5</hazard>\n"));
-    WriteBytes(folder / "b.sks", NewFile("<hazard>5</hazard>\n"));
+    const CTemporaryFolder folder;
+    WriteText(folder / "a.skd", OldFile("<hazard>5</hazard>\n"));
+    WriteText(folder / "b.sks", NewFile("<hazard>5</hazard>\n"));
     CMeasureData data;
     ASSERT_TRUE(ReadFile(data, folder / "a.skd"));
     EXPECT_EQ(data.m_hazard, -1);
@@ -243,4 +243,4 @@ TEST(ReadFile, DoesNotEndANewHeaderAtTheGraphSetting)
 }
 
 } // namespace
-} // namespace skeldon
+} // namespace skeldon::test

@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-namespace skeldon {
+namespace skeldon::test {
 namespace {
 
 /// A line that no record of the file filled.
@@ -20,7 +20,7 @@ TEST(ReadRecords, OfAFileWithoutAnyGivesAnEmptyDataSet)
 {
     CMeasureData data;
     data.SetSize(3);
-    EXPECT_TRUE(ReadText(data, NewFile("")));
+    EXPECT_TRUE(ReadDataText(data, NewFile("")));
     EXPECT_TRUE(data.IsEmpty());
 }
 
@@ -238,4 +238,4 @@ TEST(ReadRecords, TakesNulAndSubstituteBytesAsAnyOther)
 }
 
 } // namespace
-} // namespace skeldon
+} // namespace skeldon::test

@@ -1,18 +1,16 @@
 // A file that is written anew never costs the user what it held.
 #include "files/CsvFile.h"
 #include "files/DataFile.h"
-#include "files/LessPower.h"
 #include "files/StringOutput.h"
-#include "files/TempFolder.h"
-
-#include <csignal>
+#include "support/FileSizeLimit.h"
+#include "support/LessPower.h"
+#include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace skeldon {
+namespace skeldon::test {
 namespace {
 
 using Names = std::vector<std::string>;
@@ -40,30 +38,6 @@ std::error_code Save(const std::filesystem::path& path, std::size_t count)
     return WriteFile(Lines(count), path, 0);
 }
 
-/// No file can grow beyond `bytes` for a while: writing then fails as on a full disk.
-class CFileSizeLimit
-{
-public:
-    explicit CFileSizeLimit(rlim_t bytes)
-        : m_handler(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        EXPECT_EQ(::getrlimit(RLIMIT_FSIZE, &m_before), 0);
-        const rlimit limit{bytes, m_before.rlim_max};
-        EXPECT_EQ(::setrlimit(RLIMIT_FSIZE, &limit), 0);
-    }
-    ~CFileSizeLimit()
-    {
-        EXPECT_EQ(::setrlimit(RLIMIT_FSIZE, &m_before), 0);
-        (void)std::signal(SIGXFSZ, m_handler);
-    }
-    CFileSizeLimit(const CFileSizeLimit&) = delete;
-    CFileSizeLimit& operator=(const CFileSizeLimit&) = delete;
-
-private:
-    void (*m_handler)(int);
-    rlimit m_before{};
-};
-
 struct stat StatusOf(const std::filesystem::path& path)
 {
     struct stat status
@@ -74,17 +48,17 @@ struct stat StatusOf(const std::filesystem::path& path)
 
 TEST(SafeSave, LeavesTheNewFileAlone)
 {
-    const CTempFolder folder;
+    const CTemporaryFolder folder;
     ASSERT_FALSE(Save(folder / "a.skd", 3));
     EXPECT_EQ(folder.Names(), Names{"a.skd"});
     ASSERT_FALSE(Save(folder / "a.skd", 1)); // shorter
-    EXPECT_EQ(ReadBytes(folder / "a.skd"), TextOf(Lines(1)));
+    EXPECT_EQ(ReadText(folder / "a.skd"), TextOf(Lines(1)));
     EXPECT_EQ(folder.Names(), Names{"a.skd"});
 }
 
 TEST(SafeSave, MakesAFileWithTheRightsOfAnyNewOne)
 {
-    const CTempFolder folder;
+    const CTemporaryFolder folder;
     const mode_t mask = ::umask(0027);
     EXPECT_FALSE(Save(folder / "a.skd", 1));
     ::umask(mask);
@@ -93,22 +67,22 @@ TEST(SafeSave, MakesAFileWithTheRightsOfAnyNewOne)
 
 TEST(SafeSave, KeepsTheEarlierFileWhereWritingFails)
 {
-    const CTempFolder folder;
-    WriteBytes(folder / "a.skd", "earlier");
+    const CTemporaryFolder folder;
+    WriteText(folder / "a.skd", "earlier");
     {
         const CFileSizeLimit limit(300'000);
         EXPECT_EQ(Save(folder / "a.skd", 5000), std::errc::file_too_large);
     }
     EXPECT_EQ(folder.Names(), (Names{"a.skd", "a.skd.bak"}));
-    EXPECT_EQ(ReadBytes(folder / "a.skd.bak"), "earlier");
+    EXPECT_EQ(ReadText(folder / "a.skd.bak"), "earlier");
     // The part that was written stays too.
     const std::string whole = TextOf(Lines(5000));
-    EXPECT_EQ(ReadBytes(folder / "a.skd"), whole.substr(0, 300'000));
+    EXPECT_EQ(ReadText(folder / "a.skd"), whole.substr(0, 300'000));
 }
 
 TEST(SafeSave, KeepsNothingOfAFileThatWasNotThere)
 {
-    const CTempFolder folder;
+    const CTemporaryFolder folder;
     {
         const CFileSizeLimit limit(1000);
         EXPECT_EQ(Save(folder / "a.skd", 100), std::errc::file_too_large);
@@ -118,99 +92,99 @@ TEST(SafeSave, KeepsNothingOfAFileThatWasNotThere)
 
 TEST(SafeSave, FailsBeforeTheFileIsTouchedWhereThereIsNoRoomToKeepIt)
 {
-    const CTempFolder folder;
+    const CTemporaryFolder folder;
     const std::string earlier(10'000, 'e');
-    WriteBytes(folder / "a.skd", earlier);
+    WriteText(folder / "a.skd", earlier);
     {
         const CFileSizeLimit limit(5'000);
         EXPECT_EQ(Save(folder / "a.skd", 1), std::errc::file_too_large);
     }
-    EXPECT_EQ(ReadBytes(folder / "a.skd"), earlier);
+    EXPECT_EQ(ReadText(folder / "a.skd"), earlier);
     EXPECT_EQ(folder.Names(), Names{"a.skd"});
 }
 
 TEST(SafeSave, FailsBeforeTheFileIsTouchedInAFolderThatTakesNoCopy)
 {
-    const CTempFolder folder;
-    WriteBytes(folder / "a.skd", "earlier");
+    const CTemporaryFolder folder;
+    WriteText(folder / "a.skd", "earlier");
     std::filesystem::permissions(folder / "a.skd", std::filesystem::perms(0666));
     std::filesystem::permissions(folder.Path(), std::filesystem::perms(0555));
     const CLessPower asSomebody;
     EXPECT_EQ(Save(folder / "a.skd", 1), std::errc::permission_denied);
     EXPECT_EQ(Save(folder / "b.skd", 1), std::errc::permission_denied);
-    EXPECT_EQ(ReadBytes(folder / "a.skd"), "earlier");
+    EXPECT_EQ(ReadText(folder / "a.skd"), "earlier");
     EXPECT_EQ(folder.Names(), Names{"a.skd"});
 }
 
 TEST(SafeSave, FailsBeforeAFileThatMayNotBeWrittenIsCopied)
 {
-    const CTempFolder folder;
-    WriteBytes(folder / "a.skd", "earlier");
+    const CTemporaryFolder folder;
+    WriteText(folder / "a.skd", "earlier");
     std::filesystem::permissions(folder / "a.skd", std::filesystem::perms(0444));
     std::filesystem::permissions(folder.Path(), std::filesystem::perms(0777));
     const CLessPower asSomebody;
     EXPECT_EQ(Save(folder / "a.skd", 1), std::errc::permission_denied);
-    EXPECT_EQ(ReadBytes(folder / "a.skd"), "earlier");
+    EXPECT_EQ(ReadText(folder / "a.skd"), "earlier");
     EXPECT_EQ(folder.Names(), Names{"a.skd"});
 }
 
 TEST(SafeSave, NeverOverwritesWhatAnEarlierFailureKept)
 {
-    const CTempFolder folder;
-    WriteBytes(folder / "a.skd", "now");
-    WriteBytes(folder / "a.skd.bak", "kept before");
+    const CTemporaryFolder folder;
+    WriteText(folder / "a.skd", "now");
+    WriteText(folder / "a.skd.bak", "kept before");
     {
         const CFileSizeLimit limit(300'000);
         EXPECT_EQ(Save(folder / "a.skd", 5000), std::errc::file_too_large);
         EXPECT_EQ(Save(folder / "a.skd", 5000), std::errc::file_too_large);
     }
-    EXPECT_EQ(ReadBytes(folder / "a.skd.bak"), "kept before");
-    EXPECT_EQ(ReadBytes(folder / "a.skd.bak1"), "now");
-    EXPECT_EQ(ReadBytes(folder / "a.skd.bak2"), ReadBytes(folder / "a.skd"));
+    EXPECT_EQ(ReadText(folder / "a.skd.bak"), "kept before");
+    EXPECT_EQ(ReadText(folder / "a.skd.bak1"), "now");
+    EXPECT_EQ(ReadText(folder / "a.skd.bak2"), ReadText(folder / "a.skd"));
 }
 
 TEST(SafeSave, DropsAllThatFailuresKeptOnceItSucceeds)
 {
-    const CTempFolder folder;
-    WriteBytes(folder / "a.skd", "now");
+    const CTemporaryFolder folder;
+    WriteText(folder / "a.skd", "now");
     for (const char* const name : {"a.skd.bak", "a.skd.bak1", "a.skd.bak2"})
-        WriteBytes(folder / name, name);
-    WriteBytes(folder / "b.skd.bak", "of another file");
+        WriteText(folder / name, name);
+    WriteText(folder / "b.skd.bak", "of another file");
     ASSERT_FALSE(Save(folder / "a.skd", 2));
     EXPECT_EQ(folder.Names(), (Names{"a.skd", "b.skd.bak"}));
-    EXPECT_EQ(ReadBytes(folder / "a.skd"), TextOf(Lines(2)));
+    EXPECT_EQ(ReadText(folder / "a.skd"), TextOf(Lines(2)));
 }
 
 TEST(SafeSave, KeepsAFileBesideAFolderOfThatName)
 {
-    const CTempFolder folder;
-    WriteBytes(folder / "a.skd", "earlier");
+    const CTemporaryFolder folder;
+    WriteText(folder / "a.skd", "earlier");
     std::filesystem::create_directory(folder / "a.skd.bak");
     {
         const CFileSizeLimit limit(300'000);
         EXPECT_EQ(Save(folder / "a.skd", 5000), std::errc::file_too_large);
     }
-    EXPECT_EQ(ReadBytes(folder / "a.skd.bak1"), "earlier");
+    EXPECT_EQ(ReadText(folder / "a.skd.bak1"), "earlier");
     ASSERT_FALSE(Save(folder / "a.skd", 2));
     EXPECT_EQ(folder.Names(), (Names{"a.skd", "a.skd.bak"}));
 }
 
 TEST(SafeSave, FailsBeforeTheFileIsTouchedWhereEveryNameIsTaken)
 {
-    const CTempFolder folder;
-    WriteBytes(folder / "a.skd", "earlier");
-    WriteBytes(folder / "a.skd.bak", "kept");
+    const CTemporaryFolder folder;
+    WriteText(folder / "a.skd", "earlier");
+    WriteText(folder / "a.skd.bak", "kept");
     for (int i = 1; i < 100; ++i)
-        WriteBytes(folder / ("a.skd.bak" + std::to_string(i)), "kept");
+        WriteText(folder / ("a.skd.bak" + std::to_string(i)), "kept");
     EXPECT_EQ(Save(folder / "a.skd", 1), std::errc::file_exists);
-    EXPECT_EQ(ReadBytes(folder / "a.skd"), "earlier");
+    EXPECT_EQ(ReadText(folder / "a.skd"), "earlier");
     EXPECT_EQ(folder.Names().size(), 101U);
 }
 
 TEST(SafeSave, KeepsTheRightsAndTheOwnerOfTheFile)
 {
-    const CTempFolder folder;
-    WriteBytes(folder / "a.skd", "earlier");
+    const CTemporaryFolder folder;
+    WriteText(folder / "a.skd", "earlier");
     if (::geteuid() == 0) {
         ASSERT_EQ(::chown((folder / "a.skd").c_str(), 65534, 65534), 0);
     }
@@ -234,45 +208,45 @@ TEST(SafeSave, KeepsTheRightsAndTheOwnerOfTheFile)
 
 TEST(SafeSave, WritesThroughASymbolicLink)
 {
-    const CTempFolder folder;
+    const CTemporaryFolder folder;
     std::filesystem::create_directory(folder / "far");
-    WriteBytes(folder / "far/a.skd", "earlier");
+    WriteText(folder / "far/a.skd", "earlier");
     std::filesystem::create_symlink("far/a.skd", folder / "link.skd");
     ASSERT_FALSE(Save(folder / "link.skd", 2));
     EXPECT_TRUE(std::filesystem::is_symlink(folder / "link.skd"));
-    EXPECT_EQ(ReadBytes(folder / "far/a.skd"), TextOf(Lines(2)));
+    EXPECT_EQ(ReadText(folder / "far/a.skd"), TextOf(Lines(2)));
     EXPECT_EQ(folder.Names(), (Names{"far", "link.skd"}));
 }
 
 TEST(SafeSave, KeepsWhatASymbolicLinkLeadsTo)
 {
-    const CTempFolder folder;
-    WriteBytes(folder / "a.skd", "earlier");
+    const CTemporaryFolder folder;
+    WriteText(folder / "a.skd", "earlier");
     std::filesystem::create_symlink("a.skd", folder / "link.skd");
     {
         const CFileSizeLimit limit(300'000);
         EXPECT_EQ(Save(folder / "link.skd", 5000), std::errc::file_too_large);
     }
-    EXPECT_EQ(ReadBytes(folder / "link.skd.bak"), "earlier");
+    EXPECT_EQ(ReadText(folder / "link.skd.bak"), "earlier");
     EXPECT_FALSE(std::filesystem::is_symlink(folder / "link.skd.bak"));
 }
 
 TEST(SafeSave, MakesTheFileThatALinkLeadsTo)
 {
-    const CTempFolder folder;
+    const CTemporaryFolder folder;
     std::filesystem::create_symlink("a.skd", folder / "link.skd");
     ASSERT_FALSE(Save(folder / "link.skd", 2));
-    EXPECT_EQ(ReadBytes(folder / "a.skd"), TextOf(Lines(2)));
+    EXPECT_EQ(ReadText(folder / "a.skd"), TextOf(Lines(2)));
     EXPECT_TRUE(std::filesystem::is_symlink(folder / "link.skd"));
 }
 
 TEST(SafeSave, KeepsHardLinksTogether)
 {
-    const CTempFolder folder;
-    WriteBytes(folder / "a.skd", "earlier");
+    const CTemporaryFolder folder;
+    WriteText(folder / "a.skd", "earlier");
     std::filesystem::create_hard_link(folder / "a.skd", folder / "b.skd");
     ASSERT_FALSE(Save(folder / "a.skd", 2));
-    EXPECT_EQ(ReadBytes(folder / "b.skd"), TextOf(Lines(2)));
+    EXPECT_EQ(ReadText(folder / "b.skd"), TextOf(Lines(2)));
     EXPECT_EQ(std::filesystem::hard_link_count(folder / "a.skd"), 2U);
 }
 
@@ -280,7 +254,7 @@ TEST(SafeSave, ReportsAFullDevice)
 {
     EXPECT_EQ(Save("/dev/full", 2), std::errc::no_space_on_device);
     EXPECT_EQ(Save("/dev/full", 5000), std::errc::no_space_on_device);
-    const CTempFolder folder;
+    const CTemporaryFolder folder;
     std::filesystem::create_symlink("/dev/full", folder / "a.skd");
     EXPECT_EQ(Save(folder / "a.skd", 2), std::errc::no_space_on_device);
     EXPECT_EQ(folder.Names(), Names{"a.skd"});
@@ -294,8 +268,8 @@ TEST(SafeSave, WritesToADeviceWithoutKeepingIt)
 
 TEST(SafeSave, SaysWhyAPathCanNotBeWritten)
 {
-    const CTempFolder folder;
-    WriteBytes(folder / "file", "x");
+    const CTemporaryFolder folder;
+    WriteText(folder / "file", "x");
     ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
     EXPECT_EQ(Save(folder / "none/a.skd", 1), std::errc::no_such_file_or_directory);
     EXPECT_EQ(Save("", 1), std::errc::no_such_file_or_directory);
@@ -308,29 +282,29 @@ TEST(SafeSave, SaysWhyAPathCanNotBeWritten)
 
 TEST(SafeSave, TakesAFileWithoutAFolderInItsPath)
 {
-    const CTempFolder folder;
+    const CTemporaryFolder folder;
     const std::filesystem::path before = std::filesystem::current_path();
     std::filesystem::current_path(folder.Path());
-    WriteBytes("a.skd", "earlier");
+    WriteText("a.skd", "earlier");
     const std::error_code error = Save("a.skd", 2);
     std::filesystem::current_path(before);
     EXPECT_FALSE(error) << error.message();
-    EXPECT_EQ(ReadBytes(folder / "a.skd"), TextOf(Lines(2)));
+    EXPECT_EQ(ReadText(folder / "a.skd"), TextOf(Lines(2)));
     EXPECT_EQ(folder.Names(), Names{"a.skd"});
 }
 
 TEST(SafeSave, CaresForCsvFilesAlike)
 {
-    const CTempFolder folder;
-    WriteBytes(folder / "a.csv", "earlier");
+    const CTemporaryFolder folder;
+    WriteText(folder / "a.csv", "earlier");
     {
         const CFileSizeLimit limit(300'000);
         EXPECT_EQ(ExportCsv(Lines(10'000), folder / "a.txt", {}), std::errc::file_too_large);
     }
-    EXPECT_EQ(ReadBytes(folder / "a.csv.bak"), "earlier");
+    EXPECT_EQ(ReadText(folder / "a.csv.bak"), "earlier");
     ASSERT_FALSE(ExportCsv(Lines(10'000), folder / "a.txt", {}));
     EXPECT_EQ(folder.Names(), Names{"a.csv"});
 }
 
 } // namespace
-} // namespace skeldon
+} // namespace skeldon::test

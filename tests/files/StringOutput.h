@@ -4,7 +4,7 @@
 
 #include <string>
 
-namespace skeldon {
+namespace skeldon::test {
 
 /// An output that keeps what it is given.
 class CStringOutput final : public COutput
@@ -19,4 +19,4 @@ public:
     std::string m_text;
 };
 
-} // namespace skeldon
+} // namespace skeldon::test

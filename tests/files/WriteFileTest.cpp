@@ -7,7 +7,7 @@
 
 #include <gtest/gtest.h>
 
-namespace skeldon {
+namespace skeldon::test {
 namespace {
 
 using testing::HasSubstr;
@@ -194,7 +194,7 @@ TEST(WriteFile, WritesLongTextsWhole)
 
 TEST(WriteFile, DoesNotTouchTheDataSet)
 {
-    const CTempFolder folder;
+    const CTemporaryFolder folder;
     CMeasureData data;
     data.AddRecord(Line(1.0, RecordFlag::Deleted));
     data.m_fileName = "before.skd";
@@ -226,4 +226,4 @@ TEST(WriteFile, GoesOnWithoutWritingAfterAFailure)
 }
 
 } // namespace
-} // namespace skeldon
+} // namespace skeldon::test

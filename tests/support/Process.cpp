@@ -5,8 +5,6 @@
 #include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
-#include <fstream>
-#include <iterator>
 #include <poll.h>
 #include <stdexcept>
 #include <sys/wait.h>
@@ -102,19 +100,6 @@ Outcome RunProgram(const std::filesystem::path& program, const std::vector<std::
     return outcome;
 }
 
-CTemporaryFolder::CTemporaryFolder()
-{
-    std::string name = (std::filesystem::temp_directory_path() / "skeldon-XXXXXX").string();
-    Require(::mkdtemp(name.data()) != nullptr, "mkdtemp");
-    m_folder = name;
-}
-
-CTemporaryFolder::~CTemporaryFolder()
-{
-    std::error_code ignored;
-    std::filesystem::remove_all(m_folder, ignored);
-}
-
 CBackgroundProgram::CBackgroundProgram(const std::filesystem::path& program,
                                        const std::vector<std::string>& arguments)
 {
@@ -145,17 +130,6 @@ int CBackgroundProgram::Wait()
     const int status = StatusOf(m_process);
     m_process = -1;
     return status;
-}
-
-std::string ReadText(const std::filesystem::path& path)
-{
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
-void WriteText(const std::filesystem::path& path, const std::string& text)
-{
-    std::ofstream(path, std::ios::binary) << text;
 }
 
 } // namespace skeldon::test

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/TemporaryFolder.h"
+
 #include <filesystem>
 #include <string>
 #include <sys/types.h>
@@ -18,24 +20,6 @@ struct Outcome
 /// Runs a program to its end. `environment` holds "NAME=value" on top of this process's own.
 Outcome RunProgram(const std::filesystem::path& program, const std::vector<std::string>& arguments,
                    const std::vector<std::string>& environment = {});
-
-/// A folder that goes away with everything in it.
-class CTemporaryFolder
-{
-public:
-    CTemporaryFolder();
-    ~CTemporaryFolder();
-    CTemporaryFolder(const CTemporaryFolder&) = delete;
-    CTemporaryFolder& operator=(const CTemporaryFolder&) = delete;
-
-    [[nodiscard]] std::filesystem::path Path(const std::string& name) const
-    {
-        return m_folder / name;
-    }
-
-private:
-    std::filesystem::path m_folder;
-};
 
 /// A program that runs beside the test and says "ready" on its standard output once it can be
 /// used. It is ended with the object.
@@ -60,8 +44,5 @@ private:
     int m_output = -1;
     std::string m_ready;
 };
-
-std::string ReadText(const std::filesystem::path& path);
-void WriteText(const std::filesystem::path& path, const std::string& text);
 
 } // namespace skeldon::test

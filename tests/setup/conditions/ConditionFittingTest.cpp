@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-namespace skeldon {
+namespace skeldon::test {
 namespace {
 
 using testing::ElementsAre;
@@ -264,4 +264,4 @@ TEST(FitText, NamesWhatDoesNotSuitAndTheValueThatWould)
 }
 
 } // namespace
-} // namespace skeldon
+} // namespace skeldon::test

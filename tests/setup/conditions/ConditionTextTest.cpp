@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-namespace skeldon {
+namespace skeldon::test {
 namespace {
 
 TEST(SamplingListText, ShowsThePeriodInSecondsAndTheTraceMode)
@@ -106,4 +106,4 @@ TEST(MakeSaveFileName, TakesTheTextAsItIs)
 }
 
 } // namespace
-} // namespace skeldon
+} // namespace skeldon::test

@@ -5,7 +5,7 @@
 #include <map>
 #include <random>
 
-namespace skeldon {
+namespace skeldon::test {
 namespace {
 
 using namespace std::string_literals;
@@ -284,4 +284,4 @@ TEST(IniFileSet, LeavesTheOtherKeysOfAnyTextAlone)
 }
 
 } // namespace
-} // namespace skeldon
+} // namespace skeldon::test

@@ -7,7 +7,7 @@
 #include <functional>
 #include <type_traits>
 
-namespace skeldon {
+namespace skeldon::test {
 namespace {
 
 constexpr RecorderFacts Alpha(int type)
@@ -297,4 +297,4 @@ TEST(CheckHazard, FindsOnlyZeroUsableWhereARecorderHasNoHazard)
 }
 
 } // namespace
-} // namespace skeldon
+} // namespace skeldon::test

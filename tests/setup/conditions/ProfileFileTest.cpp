@@ -1,12 +1,12 @@
 #include "setup/conditions/ProfileFile.h"
-#include "TestFolder.h"
 #include "setup/tables/IntervalTable.h"
+#include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
 #include <random>
 
-namespace skeldon {
+namespace skeldon::test {
 namespace {
 
 CMeasureCondition Read(const std::string& text)
@@ -320,4 +320,4 @@ TEST(ReadProfileText, KeepsEveryValueWithinItsLimitsForAnyBytes)
 }
 
 } // namespace
-} // namespace skeldon
+} // namespace skeldon::test

@@ -1,14 +1,14 @@
 #include "setup/conditions/ProfileFolders.h"
-#include "TestFolder.h"
 #include "setup/conditions/MeasureCondition.h"
 #include "setup/conditions/platform/SystemFolders.h"
+#include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
 #include <cstdlib>
 #include <optional>
 
-namespace skeldon {
+namespace skeldon::test {
 namespace {
 
 namespace fs = std::filesystem;
@@ -60,7 +60,7 @@ TEST(ProfileFolders, TakeTheInstallationsTemplatesForAProgramInAFolderOfCommands
 
 TEST(ProfileFolders, PreferTemplatesThatLieBesideTheProgram)
 {
-    const CTestFolder folder;
+    const CTemporaryFolder folder;
     fs::create_directories(folder / "bin/Template");
     EXPECT_EQ(FindProfileFolders("/d", folder / "bin").templates, folder / "bin/Template");
 }
@@ -77,7 +77,7 @@ TEST(ProfileFolders, AreEmptyWhereTheyCanNotBeTold)
 
 TEST(MakeFolders, MakesEveryMissingLevelOfBoth)
 {
-    const CTestFolder folder;
+    const CTemporaryFolder folder;
     MakeFolders(FindProfileFolders(folder / "a/b", folder / "c/d"));
     EXPECT_TRUE(fs::is_directory(folder / "a/b/SKELDON/Profile"));
     EXPECT_TRUE(fs::is_directory(folder / "c/d/Template"));
@@ -85,7 +85,7 @@ TEST(MakeFolders, MakesEveryMissingLevelOfBoth)
 
 TEST(MakeFolders, MakesNothingOfAnInstallation)
 {
-    const CTestFolder folder;
+    const CTemporaryFolder folder;
     MakeFolders(FindProfileFolders(folder / "data", folder / "usr/bin"));
     EXPECT_TRUE(fs::is_directory(folder / "data/SKELDON/Profile"));
     EXPECT_FALSE(fs::exists(folder / "usr"));
@@ -93,11 +93,11 @@ TEST(MakeFolders, MakesNothingOfAnInstallation)
 
 TEST(MakeFolders, StaysSilentWhereNothingCanBeMade)
 {
-    const CTestFolder folder;
-    WriteBytes(folder / "file", "x");
+    const CTemporaryFolder folder;
+    WriteText(folder / "file", "x");
     MakeFolders(FindProfileFolders(folder / "file", folder / "file"));
     MakeFolders(FindProfileFolders("/proc/none", "/proc/none"));
-    EXPECT_EQ(ReadBytes(folder / "file"), "x");
+    EXPECT_EQ(ReadText(folder / "file"), "x");
 }
 
 TEST(ProfileDirectory, FollowsTheUsersDataFolder)
@@ -128,24 +128,24 @@ TEST(TemplateDirectory, BelongsToTheRunningProgram)
 
 TEST(DefaultDataDirectory, LiesInTheDocumentsFolder)
 {
-    const CTestFolder folder;
+    const CTemporaryFolder folder;
     const CVariable home("HOME", folder.Path().c_str());
     const CVariable config("XDG_CONFIG_HOME", nullptr);
     EXPECT_EQ(DefaultDataDirectory(), folder / "Documents/KORVA");
     fs::create_directories(folder / ".config");
-    WriteBytes(folder / ".config/user-dirs.dirs",
-               "# Written by the desktop\nXDG_DESKTOP_DIR=\"$HOME/Desk\"\n"
-               "XDG_DOCUMENTS_DIR=\"$HOME/Papers\"\n");
+    WriteText(folder / ".config/user-dirs.dirs",
+              "# Written by the desktop\nXDG_DESKTOP_DIR=\"$HOME/Desk\"\n"
+              "XDG_DOCUMENTS_DIR=\"$HOME/Papers\"\n");
     EXPECT_EQ(DefaultDataDirectory(), folder / "Papers/KORVA");
     fs::create_directories(folder / "else");
-    WriteBytes(folder / "else/user-dirs.dirs", "XDG_DOCUMENTS_DIR=\"/srv/papers\"\n");
+    WriteText(folder / "else/user-dirs.dirs", "XDG_DOCUMENTS_DIR=\"/srv/papers\"\n");
     const CVariable other("XDG_CONFIG_HOME", (folder / "else").c_str());
     EXPECT_EQ(DefaultDataDirectory(), "/srv/papers/KORVA");
 }
 
 TEST(DefaultDataDirectory, SurvivesUserDirsThatAreNoFile)
 {
-    const CTestFolder folder;
+    const CTemporaryFolder folder;
     const CVariable home("HOME", folder.Path().c_str());
     const CVariable config("XDG_CONFIG_HOME", folder.Path().c_str());
     fs::create_directories(folder / "user-dirs.dirs");
@@ -170,7 +170,7 @@ TEST(DocumentsFolderFrom, ReadsTheLastAbsoluteNameThatIsGiven)
 {
     bool isRight = false;
     {
-        const CTestFolder folder;
+        const CTemporaryFolder folder;
         const CVariable data("XDG_DATA_HOME", folder.Path().c_str());
         [[maybe_unused]] const CMeasureCondition first;
         isRight = fs::remove(folder / "SKELDON/Profile");
@@ -187,4 +187,4 @@ TEST(MeasureConditionDeathTest, MakesTheFoldersWithTheFirstObjectOfAProcessAlone
 }
 
 } // namespace
-} // namespace skeldon
+} // namespace skeldon::test

@@ -1,5 +1,5 @@
-#include "TestFolder.h"
 #include "setup/conditions/ProfileFile.h"
+#include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -9,7 +9,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-namespace skeldon {
+namespace skeldon::test {
 namespace {
 
 CMeasureCondition Version(int number)
@@ -34,7 +34,7 @@ CMeasureCondition Version(int number)
 
 TEST(SaveProfile, LeavesOneWholeVersionWhenItIsKilledAtAnyMoment)
 {
-    const CTestFolder folder;
+    const CTemporaryFolder folder;
     const std::string first = WriteProfileText(Version(1), "");
     const std::string second = WriteProfileText(Version(2), "");
     std::mt19937 random(3); // NOLINT(cert-msc51-cpp)
@@ -54,7 +54,7 @@ TEST(SaveProfile, LeavesOneWholeVersionWhenItIsKilledAtAnyMoment)
         int status = 0;
         ASSERT_EQ(::waitpid(child, &status, 0), child);
         ::close(ends[0]);
-        const std::string left = ReadBytes(folder / "A.skp");
+        const std::string left = ReadText(folder / "A.skp");
         ASSERT_TRUE(left == first || left == second) << left;
     }
     // What a kill may leave is no profile to any list.
@@ -63,4 +63,4 @@ TEST(SaveProfile, LeavesOneWholeVersionWhenItIsKilledAtAnyMoment)
 }
 
 } // namespace
-} // namespace skeldon
+} // namespace skeldon::test

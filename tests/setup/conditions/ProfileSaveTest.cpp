@@ -1,16 +1,15 @@
-#include "TestFolder.h"
 #include "setup/conditions/ProfileFile.h"
 #include "setup/conditions/platform/WholeFile.h"
+#include "support/FileSizeLimit.h"
+#include "support/LessPower.h"
+#include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
-#include <csignal>
-
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace skeldon {
+namespace skeldon::test {
 namespace {
 
 namespace fs = std::filesystem;
@@ -38,38 +37,14 @@ mode_t ModeOf(const fs::path& path)
     return status.st_mode & 07777;
 }
 
-/// Lets no file of this process grow beyond `bytes`, as a full disk would.
-class CFileLimit
-{
-public:
-    explicit CFileLimit(rlim_t bytes)
-    {
-        ::getrlimit(RLIMIT_FSIZE, &m_before);
-        m_signal = std::signal(SIGXFSZ, SIG_IGN);
-        const rlimit limit = {bytes, m_before.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~CFileLimit()
-    {
-        ::setrlimit(RLIMIT_FSIZE, &m_before);
-        std::signal(SIGXFSZ, m_signal);
-    }
-    CFileLimit(const CFileLimit&) = delete;
-    CFileLimit& operator=(const CFileLimit&) = delete;
-
-private:
-    rlimit m_before{};
-    void (*m_signal)(int) = nullptr;
-};
-
 TEST(SaveProfile, NamesTheFileAfterTheProfile)
 {
-    const CTestFolder folder;
+    const CTemporaryFolder folder;
     CMeasureCondition condition = Named("A.b c", 77);
     condition.FilePath = "/templates/other.skp";
     ASSERT_FALSE(SaveProfile(condition, folder.Path()));
     EXPECT_EQ(condition.FilePath, folder / "A.b c.skp");
-    EXPECT_EQ(folder.Count(), 1);
+    EXPECT_EQ(folder.Names().size(), 1U);
     CMeasureCondition read;
     ASSERT_FALSE(LoadProfile(condition.FilePath, read));
     EXPECT_EQ(read.ProfileName, "A.b c");
@@ -79,14 +54,14 @@ TEST(SaveProfile, NamesTheFileAfterTheProfile)
 
 TEST(SaveProfile, RefusesAHostNumberAbove99AndAnEmptyName)
 {
-    const CTestFolder folder;
+    const CTemporaryFolder folder;
     CMeasureCondition condition = Named("A");
     condition.SerialNo = 100;
     condition.FilePath = "before";
     EXPECT_EQ(SaveProfile(condition, folder.Path()), std::errc::invalid_argument);
     CMeasureCondition unnamed = Named("");
     EXPECT_EQ(SaveProfile(unnamed, folder.Path()), std::errc::invalid_argument);
-    EXPECT_EQ(folder.Count(), 0);
+    EXPECT_EQ(folder.Names().size(), 0U);
     EXPECT_EQ(condition.FilePath, "before");
     condition.SerialNo = 99;
     EXPECT_FALSE(SaveProfile(condition, folder.Path()));
@@ -96,7 +71,7 @@ TEST(SaveProfile, RefusesAHostNumberAbove99AndAnEmptyName)
 
 TEST(SaveProfile, NeverWritesOutsideItsFolder)
 {
-    const CTestFolder folder;
+    const CTemporaryFolder folder;
     fs::create_directories(folder / "in");
     for (const std::string& name : {std::string("../A"), std::string("/tmp/A"), std::string("a/b"),
                                     std::string("/"), std::string("a\0b", 3)}) {
@@ -104,12 +79,12 @@ TEST(SaveProfile, NeverWritesOutsideItsFolder)
         EXPECT_EQ(SaveProfile(condition, folder / "in"), std::errc::invalid_argument) << name;
     }
     EXPECT_TRUE(fs::is_empty(folder / "in"));
-    EXPECT_EQ(folder.Count(), 1);
+    EXPECT_EQ(folder.Names().size(), 1U);
 }
 
 TEST(SaveProfile, KeepsNamesApartThatDifferInAnyByte)
 {
-    const CTestFolder folder;
+    const CTemporaryFolder folder;
     const std::vector<std::string> names = {
         "A",        "a",        "A ",           " A",       "A.skp",     "A.",   ".",
         "..",       "x\\A",     "y\\A",         "\x83\x5C", "\x95\x5C",  "\x5C", "\xE9",
@@ -118,7 +93,7 @@ TEST(SaveProfile, KeepsNamesApartThatDifferInAnyByte)
         CMeasureCondition condition = Named(names[i], static_cast<int>(i));
         ASSERT_FALSE(SaveProfile(condition, folder.Path())) << names[i];
     }
-    EXPECT_EQ(folder.Count(), static_cast<std::ptrdiff_t>(names.size()));
+    EXPECT_EQ(folder.Names().size(), names.size());
     for (std::size_t i = 0; i < names.size(); ++i) {
         CMeasureCondition read;
         ASSERT_FALSE(LoadProfile(folder / (names[i] + ".skp"), read)) << names[i];
@@ -129,19 +104,19 @@ TEST(SaveProfile, KeepsNamesApartThatDifferInAnyByte)
 
 TEST(SaveProfile, KeepsWhatElseAnExistingFileHolds)
 {
-    const CTestFolder folder;
-    WriteBytes(folder / "A.skp", "[Configuration]\nThreshold=1\nMine=x\n[Own]\nB=2\n");
+    const CTemporaryFolder folder;
+    WriteText(folder / "A.skp", "[Configuration]\nThreshold=1\nMine=x\n[Own]\nB=2\n");
     CMeasureCondition condition = Named("A", 2);
     ASSERT_FALSE(SaveProfile(condition, folder.Path()));
-    const std::string bytes = ReadBytes(folder / "A.skp");
+    const std::string bytes = ReadText(folder / "A.skp");
     EXPECT_TRUE(bytes.starts_with("[Configuration]\nThreshold=2\nMine=x\n"));
     EXPECT_NE(bytes.find("[Own]\nB=2\n"), std::string::npos);
-    EXPECT_EQ(folder.Count(), 1);
+    EXPECT_EQ(folder.Names().size(), 1U);
 }
 
 TEST(SaveProfile, KeepsPermissions)
 {
-    const CTestFolder folder;
+    const CTemporaryFolder folder;
     const mode_t mask = ::umask(027);
     CMeasureCondition condition = Named("A");
     const std::error_code made = SaveProfile(condition, folder.Path());
@@ -155,9 +130,9 @@ TEST(SaveProfile, KeepsPermissions)
 
 TEST(SaveProfile, WritesThroughLinks)
 {
-    const CTestFolder folder;
+    const CTemporaryFolder folder;
     fs::create_directories(folder / "real");
-    WriteBytes(folder / "real/x.txt", "");
+    WriteText(folder / "real/x.txt", "");
     fs::create_symlink("real/x.txt", folder / "second");
     fs::create_symlink(folder / "second", folder / "A.skp");
     fs::create_symlink("real/new.txt", folder / "B.skp"); // leads to nothing yet
@@ -174,7 +149,7 @@ TEST(SaveProfile, WritesThroughLinks)
 
 TEST(SaveProfile, FailsForLinksWithoutEnd)
 {
-    const CTestFolder folder;
+    const CTemporaryFolder folder;
     fs::create_symlink("A.skp", folder / "A.skp");
     CMeasureCondition condition = Named("A");
     EXPECT_EQ(SaveProfile(condition, folder.Path()), std::errc::too_many_symbolic_link_levels);
@@ -183,35 +158,35 @@ TEST(SaveProfile, FailsForLinksWithoutEnd)
 
 TEST(SaveProfile, LeavesTheFileWholeWhenTheDiskIsFull)
 {
-    const CTestFolder folder;
+    const CTemporaryFolder folder;
     CMeasureCondition condition = Named("A", 5);
     ASSERT_FALSE(SaveProfile(condition, folder.Path()));
-    const std::string before = ReadBytes(folder / "A.skp");
+    const std::string before = ReadText(folder / "A.skp");
     condition.Threshold = 6;
     CMeasureCondition fresh = Named("B");
     std::error_code error;
     std::error_code freshError;
     {
-        const CFileLimit limit(100);
+        const CFileSizeLimit limit(100);
         error = SaveProfile(condition, folder.Path());
         freshError = SaveProfile(fresh, folder.Path());
     }
     EXPECT_EQ(error, std::errc::file_too_large);
     EXPECT_EQ(freshError, std::errc::file_too_large);
-    EXPECT_EQ(ReadBytes(folder / "A.skp"), before);
-    EXPECT_EQ(folder.Count(), 1); // neither a part of B nor a passing file
+    EXPECT_EQ(ReadText(folder / "A.skp"), before);
+    EXPECT_EQ(folder.Names().size(), 1U); // neither a part of B nor a passing file
 }
 
 TEST(SaveProfile, FailsWithTheSystemsReason)
 {
-    const CTestFolder folder;
+    const CTemporaryFolder folder;
     CMeasureCondition condition = Named("A");
     EXPECT_EQ(SaveProfile(condition, folder / "none"), std::errc::no_such_file_or_directory);
     EXPECT_EQ(SaveProfile(condition, {}), std::errc::no_such_file_or_directory);
     fs::create_directories(folder / "A.skp");
     EXPECT_EQ(SaveProfile(condition, folder.Path()), std::errc::is_a_directory);
     EXPECT_TRUE(fs::is_directory(folder / "A.skp"));
-    WriteBytes(folder / "file", "x");
+    WriteText(folder / "file", "x");
     EXPECT_EQ(SaveProfile(condition, folder / "file"), std::errc::not_a_directory);
     EXPECT_TRUE(SaveProfile(condition, "/proc")); // takes no new file, root's neither
     CMeasureCondition longName = Named(std::string(300, 'n'));
@@ -220,65 +195,65 @@ TEST(SaveProfile, FailsWithTheSystemsReason)
 
 TEST(SaveProfile, DoesNotReplaceAFileThatMayNotBeWritten)
 {
-    const CTestFolder folder;
+    const CTemporaryFolder folder;
     SetMode(folder.Path(), 0777);
-    WriteBytes(folder / "A.skp", "[Configuration]\nThreshold=1\n");
+    WriteText(folder / "A.skp", "[Configuration]\nThreshold=1\n");
     SetMode(folder / "A.skp", 0444);
     CMeasureCondition condition = Named("A", 2);
     {
-        const CPlainUser user;
+        const CLessPower user;
         EXPECT_EQ(SaveProfile(condition, folder.Path()), std::errc::permission_denied);
     }
     EXPECT_EQ(ThresholdOf(folder / "A.skp"), 1);
-    EXPECT_EQ(folder.Count(), 1);
+    EXPECT_EQ(folder.Names().size(), 1U);
 }
 
 TEST(SaveProfile, FailsInAReadOnlyFolder)
 {
-    const CTestFolder folder;
-    WriteBytes(folder / "A.skp", "[Configuration]\nThreshold=1\n");
+    const CTemporaryFolder folder;
+    WriteText(folder / "A.skp", "[Configuration]\nThreshold=1\n");
     SetMode(folder / "A.skp", 0666);
     SetMode(folder.Path(), 0555);
     CMeasureCondition old = Named("A", 2);
     CMeasureCondition fresh = Named("B", 2);
     {
-        const CPlainUser user;
+        const CLessPower user;
         EXPECT_EQ(SaveProfile(old, folder.Path()), std::errc::permission_denied);
         EXPECT_EQ(SaveProfile(fresh, folder.Path()), std::errc::permission_denied);
     }
     SetMode(folder.Path(), 0755);
     EXPECT_EQ(fresh.FilePath, folder / "B.skp"); // where it was to be written
     EXPECT_EQ(ThresholdOf(folder / "A.skp"), 1);
-    EXPECT_EQ(folder.Count(), 1);
+    EXPECT_EQ(folder.Names().size(), 1U);
 }
 
 TEST(SaveProfile, DoesNotReplaceAFileThatItCanNotRead)
 {
-    const CTestFolder folder;
+    const CTemporaryFolder folder;
     SetMode(folder.Path(), 0777);
-    WriteBytes(folder / "A.skp", "[Own]\nB=2\n");
+    WriteText(folder / "A.skp", "[Own]\nB=2\n");
     SetMode(folder / "A.skp", 0222);
     CMeasureCondition condition = Named("A", 2);
     {
-        const CPlainUser user;
+        const CLessPower user;
         EXPECT_EQ(SaveProfile(condition, folder.Path()), std::errc::permission_denied);
     }
     SetMode(folder / "A.skp", 0644);
-    EXPECT_EQ(ReadBytes(folder / "A.skp"), "[Own]\nB=2\n");
+    EXPECT_EQ(ReadText(folder / "A.skp"), "[Own]\nB=2\n");
 }
 
 TEST(SaveProfile, TakesANameOfTheGreatestLength)
 {
-    const CTestFolder folder;
+    const CTemporaryFolder folder;
     CMeasureCondition condition = Named(std::string(251, 'n'));
     EXPECT_FALSE(SaveProfile(condition, folder.Path()));
     EXPECT_FALSE(SaveProfile(condition, folder.Path()));
-    EXPECT_EQ(folder.Count(), 1);
+    EXPECT_EQ(folder.Names().size(), 1U);
 }
 
 TEST(SaveProfile, RefusesWhatIsNoRegularFile)
 {
-    const CTestFolder folder;
+    const CTemporaryFolder folder;
     fs::create_symlink("/dev/null", folder / "A.skp");
     ASSERT_EQ(::mkfifo((folder / "B.skp").c_str(), 0600), 0);
     CMeasureCondition a = Named("A");
@@ -291,8 +266,8 @@ TEST(SaveProfile, RefusesWhatIsNoRegularFile)
 
 TEST(SaveProfile, RefusesAFileTooLargeToBeKept)
 {
-    const CTestFolder folder;
-    WriteBytes(folder / "A.skp", "[Configuration]\nThreshold=9\n");
+    const CTemporaryFolder folder;
+    WriteText(folder / "A.skp", "[Configuration]\nThreshold=9\n");
     fs::resize_file(folder / "A.skp", ProfileSizeLimit + 1);
     CMeasureCondition condition = Named("A", 5);
     EXPECT_EQ(SaveProfile(condition, folder.Path()), std::errc::file_too_large);
@@ -302,8 +277,8 @@ TEST(SaveProfile, RefusesAFileTooLargeToBeKept)
 
 TEST(LoadProfile, TakesTheNameFromTheFileAndNotFromItsKey)
 {
-    const CTestFolder folder;
-    WriteBytes(folder / "Renamed.SKP", "[Configuration]\nProfileName=\"Old\"\n");
+    const CTemporaryFolder folder;
+    WriteText(folder / "Renamed.SKP", "[Configuration]\nProfileName=\"Old\"\n");
     CMeasureCondition condition;
     ASSERT_FALSE(LoadProfile(folder / "Renamed.SKP", condition));
     EXPECT_EQ(condition.ProfileName, "Renamed");
@@ -312,9 +287,9 @@ TEST(LoadProfile, TakesTheNameFromTheFileAndNotFromItsKey)
 
 TEST(LoadProfile, LeavesTheObjectAloneWhereThereIsNoFile)
 {
-    const CTestFolder folder;
+    const CTemporaryFolder folder;
     ASSERT_EQ(::mkfifo((folder / "fifo.skp").c_str(), 0600), 0);
-    WriteBytes(folder / "file", "x");
+    WriteText(folder / "file", "x");
     CMeasureCondition condition = Named("Before", 5);
     condition.FilePath = "before";
     EXPECT_EQ(LoadProfile(folder / "none.skp", condition), std::errc::no_such_file_or_directory);
@@ -330,7 +305,7 @@ TEST(LoadProfile, LeavesTheObjectAloneWhereThereIsNoFile)
 
 TEST(LoadProfile, GivesTheNameAndTheReasonOfAFileThatCanNotBeRead)
 {
-    const CTestFolder folder;
+    const CTemporaryFolder folder;
     // A regular file whose first byte nobody can read, root neither.
     fs::create_symlink("/proc/self/mem", folder / "A.skp");
     CMeasureCondition condition = Named("Before", 5);
@@ -342,13 +317,13 @@ TEST(LoadProfile, GivesTheNameAndTheReasonOfAFileThatCanNotBeRead)
 
 TEST(LoadProfile, TellsThatAFileMayNotBeRead)
 {
-    const CTestFolder folder;
+    const CTemporaryFolder folder;
     SetMode(folder.Path(), 0755);
-    WriteBytes(folder / "A.skp", "[Configuration]\nThreshold=9\n");
+    WriteText(folder / "A.skp", "[Configuration]\nThreshold=9\n");
     SetMode(folder / "A.skp", 0000);
     CMeasureCondition condition = Named("Before", 5);
     {
-        const CPlainUser user;
+        const CLessPower user;
         EXPECT_EQ(LoadProfile(folder / "A.skp", condition), std::errc::permission_denied);
     }
     EXPECT_EQ(condition.ProfileName, "A");
@@ -357,15 +332,15 @@ TEST(LoadProfile, TellsThatAFileMayNotBeRead)
 
 TEST(LoadProfile, ReadsAFileAsFarAsItsLimit)
 {
-    const CTestFolder folder;
-    WriteBytes(folder / "A.skp", "[Configuration]\nThreshold=9\n");
+    const CTemporaryFolder folder;
+    WriteText(folder / "A.skp", "[Configuration]\nThreshold=9\n");
     fs::resize_file(folder / "A.skp", std::uintmax_t{1} << 40); // a terabyte of nothing
     EXPECT_EQ(ThresholdOf(folder / "A.skp"), 9);
 }
 
 TEST(MeasureConditionSave, MakesTheFolderAgainBeforeAWrite)
 {
-    const CTestFolder folder;
+    const CTemporaryFolder folder;
     const char* const before = std::getenv("XDG_DATA_HOME");
     const std::string kept = before == nullptr ? "" : before;
     ::setenv("XDG_DATA_HOME", folder.Path().c_str(), 1);
@@ -381,17 +356,17 @@ TEST(MeasureConditionSave, MakesTheFolderAgainBeforeAWrite)
 
 TEST(DeleteFile, DeletesFilesAndLinksButNoFolder)
 {
-    const CTestFolder folder;
-    WriteBytes(folder / "a", "x");
+    const CTemporaryFolder folder;
+    WriteText(folder / "a", "x");
     fs::create_symlink("a", folder / "link");
     fs::create_directories(folder / "empty");
     EXPECT_FALSE(DeleteFile(folder / "link"));
-    EXPECT_EQ(ReadBytes(folder / "a"), "x");
+    EXPECT_EQ(ReadText(folder / "a"), "x");
     EXPECT_FALSE(DeleteFile(folder / "a"));
     EXPECT_FALSE(DeleteFile(folder / "a"));
     EXPECT_EQ(DeleteFile(folder / "empty"), std::errc::is_a_directory);
-    EXPECT_EQ(folder.Count(), 1);
+    EXPECT_EQ(folder.Names().size(), 1U);
 }
 
 } // namespace
-} // namespace skeldon
+} // namespace skeldon::test

@@ -1,5 +1,6 @@
 #include "setup/conditions/ProfileStore.h"
-#include "TestFolder.h"
+#include "support/LessPower.h"
+#include "support/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -7,7 +8,7 @@
 #include <fstream>
 #include <stdexcept>
 
-namespace skeldon {
+namespace skeldon::test {
 namespace {
 
 namespace fs = std::filesystem;
@@ -25,7 +26,7 @@ protected:
 
     void Put(const std::string& name, const std::string& text) const
     {
-        WriteBytes(m_folder / ("P/" + name), text);
+        WriteText(m_folder / ("P/" + name), text);
     }
 
     [[nodiscard]] std::vector<std::string> Names() const
@@ -49,7 +50,7 @@ protected:
         }
     }
 
-    CTestFolder m_folder;
+    CTemporaryFolder m_folder;
     CProfileStore m_store{ProfileFolders{m_folder / "P", m_folder / "T"}};
 };
 
@@ -130,7 +131,7 @@ TEST_F(ProfileStoreTest, ReplacesItsEntriesAtEachLoad)
 
 TEST_F(ProfileStoreTest, GivesTemplatesTheHostNumberZero)
 {
-    WriteBytes(m_folder / "T/t.skp", "[Configuration]\nSerialNo=7\nThreshold=30\n");
+    WriteText(m_folder / "T/t.skp", "[Configuration]\nSerialNo=7\nThreshold=30\n");
     Put("p.skp", "[Configuration]\nSerialNo=7\n");
     EXPECT_TRUE(m_store.Load(true));
     ASSERT_THAT(Names(), ElementsAre("t"));
@@ -261,7 +262,7 @@ TEST_F(ProfileStoreTest, TellsWhyAFileOfAReadOnlyFolderStays)
     SetMode(m_folder.Path(), 0755);
     SetMode(m_folder / "P", 0555);
     {
-        const CPlainUser user;
+        const CLessPower user;
         EXPECT_EQ(m_store.RemoveAt(0), std::errc::permission_denied);
     }
     SetMode(m_folder / "P", 0755);
@@ -328,4 +329,4 @@ TEST_F(ProfileStoreTest, FindsThePreviousFreeHostNumber)
 }
 
 } // namespace
-} // namespace skeldon
+} // namespace skeldon::test

@@ -1,8 +1,8 @@
 // The templates that come with the program.
-#include "TestFolder.h"
 #include "setup/conditions/ConditionFitting.h"
 #include "setup/conditions/ProfileFile.h"
 #include "setup/conditions/ProfileStore.h"
+#include "support/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -10,7 +10,7 @@
 #include <map>
 #include <set>
 
-namespace skeldon {
+namespace skeldon::test {
 namespace {
 
 using testing::ElementsAre;
@@ -49,7 +49,7 @@ protected:
 
     void SetUp() override { ASSERT_TRUE(m_store.Load(true)); }
 
-    CTestFolder m_folder;
+    CTemporaryFolder m_folder;
     CProfileStore m_store;
 };
 
@@ -75,7 +75,7 @@ TEST_F(TemplatesTest, AreWhatTheProgramWouldWrite)
 {
     for (int i = 0; i < m_store.GetCount(); ++i) {
         const CProfile entry = m_store.GetAt(i);
-        EXPECT_EQ(ReadBytes(entry.FilePath), WriteProfileText(entry, {})) << entry.ProfileName;
+        EXPECT_EQ(ReadText(entry.FilePath), WriteProfileText(entry, {})) << entry.ProfileName;
     }
 }
 
@@ -115,4 +115,4 @@ TEST_F(TemplatesTest, OnlyTheDropTestTraces)
 }
 
 } // namespace
-} // namespace skeldon
+} // namespace skeldon::test

@@ -4,7 +4,7 @@
 
 #include <unistd.h>
 
-namespace skeldon {
+namespace skeldon::test {
 
 /// Takes the rights of root away from this process for a while: where tests run as root, nothing
 /// would be forbidden to them.
@@ -30,4 +30,4 @@ private:
     uid_t m_before;
 };
 
-} // namespace skeldon
+} // namespace skeldon::test

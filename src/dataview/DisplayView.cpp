@@ -8,6 +8,7 @@
 #include "controls/SkinButton.h"
 #include "dataview/DisplayViewBusy.h"
 #include "dataview/MeasuredList.h"
+#include "dataview/PrintJob.h"
 #include "resources/StringTable.h"
 
 #include <QFileInfo>

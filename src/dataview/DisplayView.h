@@ -1,18 +1,22 @@
 #pragma once
 
 #include "app/View.h"
+#include "chart/model/PrintSettings.h"
 #include "data/MeasureData.h"
 #include "dataview/ConditionSummary.h"
 #include "dataview/DataViewLayout.h"
 
 #include <array>
 #include <filesystem>
+#include <memory>
 
 namespace skeldon {
 
 class CChartWnd;
 class CConnectionIcon;
 class CMeasuredList;
+class CPrinters;
+class CPrintJob;
 class CProgressWindow;
 class CSkinButton;
 struct ButtonForm;
@@ -55,6 +59,9 @@ public:
     [[nodiscard]] CMeasuredList& List() { return *m_list; }
     [[nodiscard]] CChartWnd& Chart() { return *m_chart; }
     [[nodiscard]] CSkinButton& Button(DataViewButton button) const;
+
+    /// Prints on these from now on, in place of the desktop's printers.
+    void SetPrinters(std::unique_ptr<CPrinters> printers);
 
     /// Brings title and buttons into line with what can be done now.
     void RefreshControls();
@@ -112,6 +119,10 @@ private:
     [[nodiscard]] QString ProposedName() const;
     [[nodiscard]] QString FolderOf(const char* key) const;
 
+    // Paper.
+    void OnFilePrint();
+    [[nodiscard]] QString ProposedPdfPath(const QString& before) const;
+
     // The data set.
     [[nodiscard]] bool QuerySave();
     void ClearData();
@@ -138,6 +149,9 @@ private:
     CMeasureData m_data;
     ExtractConditions m_extractCopy;
     bool m_bSaveInfo = true;
+    PrintSettings m_printSettings;
+    std::unique_ptr<CPrinters> m_printers; ///< none before the first print
+    std::unique_ptr<CPrintJob> m_printJob; ///< likewise
     QString m_strSummary;
     std::array<CSkinButton*, static_cast<std::size_t>(DataViewButton::Count)> m_buttons{};
     CConnectionIcon* m_connection;

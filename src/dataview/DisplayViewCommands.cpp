@@ -140,6 +140,8 @@ void CDisplayView::OnCommand(CommandId command)
         return;
     case CommandId::ExportCsv:
         return ExportCsvFile();
+    case CommandId::Print:
+        return OnFilePrint();
     case CommandId::CopyCsv:
         return CopyCsv();
     case CommandId::GetData:

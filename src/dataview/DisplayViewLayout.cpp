@@ -4,6 +4,7 @@
 #include "app/DataText.h"
 #include "app/SkeldonApp.h"
 #include "chart/view/ChartWnd.h"
+#include "chart/view/PrintSettingsStore.h"
 #include "controls/ConnectionIcon.h"
 #include "controls/PictureCursor.h"
 #include "controls/SkinButton.h"
@@ -95,6 +96,7 @@ void CDisplayView::ReadSettings()
     m_chart->Create(m_data);
     SetUpButtons();
     ReadChartSettings();
+    m_printSettings = ReadPrintSettings(App().Settings());
 }
 
 void CDisplayView::WriteSettings()
@@ -109,6 +111,7 @@ void CDisplayView::WriteSettings()
     settings.WriteInt(SystemSection, QStringLiteral("ChkGraphView"), 1);
     settings.WriteInt(SystemSection, QStringLiteral("ChkListView"), 1);
     settings.WriteInt(SystemSection, KeyOf(ListBorderKey), m_listBorder);
+    WritePrintSettings(settings, m_printSettings);
 }
 
 CDataViewLayout CDisplayView::Layout() const

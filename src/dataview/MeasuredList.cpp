@@ -3,6 +3,7 @@
 #include "app/PumpMessages.h"
 #include "app/SkeldonApp.h"
 #include "app/WaitCursor.h"
+#include "dataview/ListPage.h"
 #include "dataview/MeasuredListModel.h"
 #include "resources/StringTable.h"
 
@@ -122,6 +123,12 @@ void CMeasuredList::SaveColumnWidths()
 ListPrintMetrics CMeasuredList::GetPrintMetrics() const
 {
     return {PrintWidthInFontHeights * FontHeight, RowHeight, HeaderRows * RowHeight};
+}
+
+void CMeasuredList::PrintPage(QPainter& device, const ListPage& page)
+{
+    if (m_pData != nullptr)
+        PaintListPage(device, page, *m_pData, m_text, font(), RowHeight);
 }
 
 int CMeasuredList::CountRows() const

@@ -11,6 +11,7 @@
 namespace skeldon {
 
 class CMeasuredListModel;
+struct ListPage;
 
 /// Sizes of a printed list in the units of its font.
 struct ListPrintMetrics
@@ -42,6 +43,8 @@ public:
     void SetCurrentRow(int row);
     void SaveColumnWidths();
     [[nodiscard]] ListPrintMetrics GetPrintMetrics() const;
+    /// Draws a page of the list from the device's left top on.
+    void PrintPage(QPainter& device, const ListPage& page);
     /// What the chart has to say.
     void OnMeasureGraph(MeasureGraphCode code, int argument);
 

@@ -5,8 +5,6 @@
 
 namespace skeldon {
 
-namespace {
-
 QString TitleOf(ListColumn column)
 {
     switch (column) {
@@ -32,8 +30,6 @@ QString TitleOf(ListColumn column)
     }
     return {};
 }
-
-} // namespace
 
 void CMeasuredListModel::SetRowCount(int count)
 {

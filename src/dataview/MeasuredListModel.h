@@ -10,6 +10,9 @@ namespace skeldon {
 
 enum class ListColumn;
 
+/// Title of a column, on the screen and on paper; the line numbers have none.
+[[nodiscard]] QString TitleOf(ListColumn column);
+
 /// The rows of the measured list: how many there are, and the titles of the columns. Rows hold no
 /// text: what a cell shows is made when it is painted, or when a screen reader asks for it.
 class CMeasuredListModel : public QAbstractTableModel

@@ -76,6 +76,19 @@ void CScaledPainter::DrawTextScaled(const QString& text, int left, int top, int 
                   side | Qt::AlignVCenter, PrintableText(text));
 }
 
+void CScaledPainter::DrawFittedText(const QString& text, int left, int top, int right, int bottom,
+                                    Qt::AlignmentFlag side, ColourRef colour)
+{
+    const QRect place = DeviceRect(left, top, right, bottom);
+    const int length = TextWidth(text);
+    if (length < 1)
+        return;
+    const double fitted = std::min(1.0, static_cast<double>(place.width()) / length);
+    m_painter->setPen(ToColour(colour));
+    DrawStretched(place, m_scaleX / m_scaleY * fitted, side | Qt::AlignVCenter,
+                  PrintableText(text));
+}
+
 int CScaledPainter::TextWidth(const QString& text) const
 {
     return RoundPixel(m_painter->fontMetrics().horizontalAdvance(PrintableText(text)) * m_scaleX /

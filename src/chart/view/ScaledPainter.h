@@ -36,6 +36,9 @@ public:
     /// One line of text, not clipped, at the left or right side and in the middle of the height.
     void DrawTextScaled(const QString& text, int left, int top, int right, int bottom,
                         Qt::AlignmentFlag side, ColourRef colour);
+    /// The same, in letters as narrow as it takes to stay within the rectangle.
+    void DrawFittedText(const QString& text, int left, int top, int right, int bottom,
+                        Qt::AlignmentFlag side, ColourRef colour);
     /// Text that reads upward, on a white ground that wipes what lies under it. Gives its length
     /// before scaling.
     int DrawRotatedText(int x, int y, Vertical alignment, const QString& text, ColourRef colour);

@@ -1,8 +1,10 @@
 #include "app/DesktopPrompts.h"
 
+#include "app/Clipboard.h"
 #include "resources/StringTable.h"
 
 #include <QApplication>
+#include <QColorDialog>
 #include <QCursor>
 #include <QDesktopServices>
 #include <QFileDialog>
@@ -10,6 +12,7 @@
 #include <QTimer>
 #include <QUrl>
 
+#include <utility>
 #include <vector>
 
 namespace skeldon {
@@ -122,6 +125,21 @@ bool CDesktopPrompts::RunDialog(QDialog& dialog)
 {
     const CUsualCursor usual;
     return dialog.exec() == QDialog::Accepted;
+}
+
+std::optional<ColourRef> CDesktopPrompts::AskColour(QWidget* parent, ColourRef present)
+{
+    const CUsualCursor usual;
+    QColorDialog dialog(ToColour(present), parent);
+    dialog.setWindowTitle(Text(StringId::ChartColor));
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return ToColourRef(dialog.selectedColor());
+}
+
+bool CDesktopPrompts::PutOnClipboard(std::unique_ptr<QMimeData> contents)
+{
+    return GiveToClipboard(std::move(contents));
 }
 
 void CDesktopPrompts::OpenPage(const QUrl& page)

@@ -1,8 +1,12 @@
 #pragma once
 
+#include "app/Colour.h"
+
+#include <QMimeData>
 #include <QString>
 #include <QStringList>
 
+#include <memory>
 #include <optional>
 
 class QDialog;
@@ -53,6 +57,11 @@ public:
     virtual std::optional<QString> AskSavePath(QWidget* parent, const FileQuestion& question) = 0;
     /// Runs a dialog of the program's own until it is closed; true if that was by OK.
     virtual bool RunDialog(QDialog& dialog) = 0;
+    /// A colour, beginning at `present`; nothing when cancelled.
+    virtual std::optional<ColourRef> AskColour(QWidget* parent, ColourRef present) = 0;
+    /// Gives something to the clipboard, which keeps it while the program runs; false where the
+    /// clipboard does not take it.
+    virtual bool PutOnClipboard(std::unique_ptr<QMimeData> contents) = 0;
     /// Opens a page in the desktop's viewer; silent where there is none.
     virtual void OpenPage(const QUrl& page) = 0;
     /// The information beep.

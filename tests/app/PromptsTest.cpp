@@ -9,6 +9,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QClipboard>
+#include <QColorDialog>
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
@@ -447,9 +448,70 @@ private slots:
         std::vector<std::string> bytes;
         for (const QByteArray& line : lines)
             bytes.push_back(line.toStdString());
+        const test::CTestApp app;
         QApplication::clipboard()->setText(u"before"_s);
         QVERIFY(CopyLinesToClipboard(bytes));
         QTEST(QApplication::clipboard()->text(), "text");
+    }
+
+    void APictureGoesToTheClipboard()
+    {
+        const test::CTestApp app;
+        QImage picture(3, 2, QImage::Format_RGB32);
+        picture.fill(Qt::red);
+        QVERIFY(CopyPictureToClipboard(picture));
+        QCOMPARE(QApplication::clipboard()->image(), picture);
+    }
+
+    void WithoutAPictureTheClipboardStays()
+    {
+        const test::CTestApp app;
+        QApplication::clipboard()->setText(u"before"_s);
+        QVERIFY(!CopyPictureToClipboard({}));
+        QCOMPARE(QApplication::clipboard()->text(), u"before"_s);
+    }
+
+    void AClipboardThatRefusesIsTold()
+    {
+        const test::CTestApp app;
+        QApplication::clipboard()->setText(u"before"_s);
+        app.m_prompts->m_clipboardFails = true;
+        QVERIFY(!CopyLinesToClipboard({"a"}));
+        QVERIFY(!CopyPictureToClipboard(QImage(3, 2, QImage::Format_RGB32)));
+        QCOMPARE(QApplication::clipboard()->text(), u"before"_s);
+    }
+
+    void TheDesktopsClipboardTakesWhatItIsGiven()
+    {
+        auto contents = std::make_unique<QMimeData>();
+        contents->setText(u"a"_s);
+        QVERIFY(m_desktop.PutOnClipboard(std::move(contents)));
+        QCOMPARE(QApplication::clipboard()->text(), u"a"_s);
+    }
+
+    // --- colours ---
+
+    void AColourIsChosenFromThePresentOneOn()
+    {
+        QColor first;
+        QTimer::singleShot(0, qApp, [&first] {
+            auto* const dialog = qobject_cast<QColorDialog*>(QApplication::activeModalWidget());
+            QVERIFY(dialog != nullptr);
+            first = dialog->currentColor();
+            dialog->setCurrentColor(QColor(0x11, 0x22, 0x33));
+            dialog->accept();
+        });
+        const auto colour = m_desktop.AskColour(nullptr, 0xC50C01);
+        QCOMPARE(first, QColor(0x01, 0x0C, 0xC5));
+        QVERIFY(colour.has_value());
+        QCOMPARE(*colour, 0x332211U);
+    }
+
+    void AColourCanBeLeftAlone()
+    {
+        QTimer::singleShot(
+            0, qApp, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
+        QVERIFY(!m_desktop.AskColour(nullptr, 0xC50C01).has_value());
     }
 
     void TextsOfTheDataCodePageGoThereAndBack()

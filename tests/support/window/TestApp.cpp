@@ -1,5 +1,6 @@
 #include "support/window/TestApp.h"
 
+#include "app/Clipboard.h"
 #include "recorder/RecorderPort.h"
 
 #include <utility>
@@ -52,6 +53,21 @@ bool CScriptedPrompts::RunDialog(QDialog& dialog)
     const bool isAccepted = dialog.result() == QDialog::Accepted && !dialog.isVisible();
     dialog.hide();
     return isAccepted;
+}
+
+std::optional<ColourRef> CScriptedPrompts::AskColour(QWidget* /*parent*/, ColourRef present)
+{
+    Show({Prompt::Kind::Colour, {}, {}, {}, present});
+    if (m_colours.empty())
+        return std::nullopt;
+    const std::optional<ColourRef> colour = m_colours.front();
+    m_colours.pop_front();
+    return colour;
+}
+
+bool CScriptedPrompts::PutOnClipboard(std::unique_ptr<QMimeData> contents)
+{
+    return !m_clipboardFails && GiveToClipboard(std::move(contents));
 }
 
 QStringList CScriptedPrompts::Boxes() const

@@ -21,12 +21,14 @@ struct Prompt
         Box,
         OpenPath,
         SavePath,
+        Colour,
     };
 
     Kind kind = Kind::Box;
     BoxKind boxKind = BoxKind::Warning;
     QString text;          ///< of a box; title of a dialog
     FileQuestion question; ///< of a dialog
+    ColourRef colour = 0;  ///< that a colour dialog begins at
 };
 
 /// Answers in place of the user: boxes by the next prepared answer, or as Enter would; dialogs by
@@ -38,6 +40,8 @@ public:
     std::optional<QString> AskOpenPath(QWidget* parent, const FileQuestion& question) override;
     std::optional<QString> AskSavePath(QWidget* parent, const FileQuestion& question) override;
     bool RunDialog(QDialog& dialog) override;
+    std::optional<ColourRef> AskColour(QWidget* parent, ColourRef present) override;
+    bool PutOnClipboard(std::unique_ptr<QMimeData> contents) override;
     void OpenPage(const QUrl& page) override { m_pages.push_back(page); }
     void Beep() override { ++m_beeps; }
     void BeepFailure() override { ++m_failureBeeps; }
@@ -49,6 +53,8 @@ public:
     std::vector<QUrl> m_pages;
     std::deque<Answer> m_answers;
     std::deque<std::optional<QString>> m_paths;
+    std::deque<std::optional<ColourRef>> m_colours; ///< none: cancelled
+    bool m_clipboardFails = false;
     /// What the user does in the next dialog, which is open then; true closes it by OK if it lets
     /// itself be closed so. Without one it is cancelled.
     std::deque<std::function<bool(QDialog&)>> m_dialogs;

@@ -53,6 +53,18 @@ int FitNames(CScaledPainter& scaled, int room)
     return longest();
 }
 
+/// The chart without scroll bars and gauge.
+QSize ViewSize(const ChartSizes& sizes)
+{
+    return {sizes.PlotBitmapWidth(), sizes.clientHeight - sizes.horzScrollHeight};
+}
+
+QSize DeviceSize(QSize size, double ratio)
+{
+    return {static_cast<int>(std::ceil(size.width() * ratio)),
+            static_cast<int>(std::ceil(size.height() * ratio))};
+}
+
 } // namespace
 
 QSize ChartPictureSize(QSize chart, int labelHeight)
@@ -99,37 +111,46 @@ void PaintLegend(CScaledPainter& painter, const ChartRect& rect, const ChartColo
     painter.Painter().restore();
 }
 
-QImage ChartPicture(const CChartModel& model, const ChartColours& colours, const QFont& font,
-                    const QString& title, double ratio)
+QImage FrameChart(const ChartSizes& sizes, const ChartColours& colours, const QFont& font,
+                  const QString& title, double ratio,
+                  const std::function<void(QPainter&)>& paintView)
 {
-    const ChartSizes sizes = model.Sizes();
     const int labelHeight = sizes.labelHeight;
-    const QSize chart(sizes.PlotBitmapWidth(), sizes.clientHeight - sizes.horzScrollHeight);
-    const auto device = [ratio](QSize size) {
-        return QSize(static_cast<int>(std::ceil(size.width() * ratio)),
-                     static_cast<int>(std::ceil(size.height() * ratio)));
-    };
-    QImage picture(device(ChartPictureSize(chart, labelHeight)), QImage::Format_RGB32);
-    QImage layer(device(chart), QImage::Format_RGB32);
-    QImage strip(device({chart.width(), std::max(TimeStripHeight, sizes.timeStripHeight)}),
-                 QImage::Format_RGB32);
-    if (picture.isNull() || layer.isNull() || strip.isNull())
+    const QSize chart = ViewSize(sizes);
+    QImage picture(DeviceSize(ChartPictureSize(chart, labelHeight), ratio), QImage::Format_RGB32);
+    if (picture.isNull())
         return {};
-    for (QImage* const image : {&picture, &layer, &strip})
-        image->fill(Qt::white);
-    CChartPainter painter(model, colours, font);
-    painter.SetScale(ratio, ratio);
-    painter.PaintChart(layer);
-    painter.PaintTimeStrip(strip, 0);
-
+    picture.fill(Qt::white);
     CScaledPainter outer(picture, font, ratio, ratio);
     const int right = chart.width() + LegendLabelHeights * labelHeight + 4 * LegendMargin;
     const int top = TitleHeight(labelHeight);
     PaintTitle(outer, title, right, TitleGap, labelHeight + TitleGap);
     PaintLegend(outer, {chart.width(), top, right, top + chart.height()}, colours, labelHeight);
     outer.Painter().translate(0, outer.DeviceY(top));
-    painter.Compose(outer.Painter(), layer, strip, std::nullopt);
+    paintView(outer.Painter());
     return picture;
+}
+
+QImage ChartPicture(const CChartModel& model, const ChartColours& colours, const QFont& font,
+                    const QString& title, double ratio)
+{
+    const ChartSizes sizes = model.Sizes();
+    const QSize chart = ViewSize(sizes);
+    QImage layer(DeviceSize(chart, ratio), QImage::Format_RGB32);
+    QImage strip(
+        DeviceSize({chart.width(), std::max(TimeStripHeight, sizes.timeStripHeight)}, ratio),
+        QImage::Format_RGB32);
+    if (layer.isNull() || strip.isNull())
+        return {};
+    layer.fill(Qt::white);
+    strip.fill(Qt::white);
+    CChartPainter painter(model, colours, font);
+    painter.SetScale(ratio, ratio);
+    painter.PaintChart(layer);
+    painter.PaintTimeStrip(strip, 0);
+    return FrameChart(sizes, colours, font, title, ratio, [&](QPainter& view) {
+        painter.Compose(view, layer, strip, std::nullopt);
+    });
 }
 
 } // namespace skeldon

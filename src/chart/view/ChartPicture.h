@@ -7,6 +7,8 @@
 #include <QImage>
 #include <QString>
 
+#include <functional>
+
 namespace skeldon {
 
 /// Size in logical pixels of the picture that shows a chart of `chart` with title and legend.
@@ -23,6 +25,12 @@ void PaintTitle(CScaledPainter& painter, const QString& title, int right, int to
 /// All six series, shown or not: name and a line in the series' colour, from the rectangle's top.
 void PaintLegend(CScaledPainter& painter, const ChartRect& rect, const ChartColours& colours,
                  int labelHeight);
+
+/// A picture with title and legend round what `paintView` paints: the chart without scroll bars and
+/// gauge, from the painter's origin on, in device pixels. No picture if memory does not allow it.
+[[nodiscard]] QImage FrameChart(const ChartSizes& sizes, const ChartColours& colours,
+                                const QFont& font, const QString& title, double ratio,
+                                const std::function<void(QPainter&)>& paintView);
 
 /// The view image of a chart with title and legend, as it goes to the clipboard and into a file.
 /// `model` is sized for the chart's share; `ratio` is device pixels per logical pixel.

@@ -185,16 +185,21 @@ void CChartWnd::PaintPicture(QPainter& painter)
 {
     const ChartSizes sizes = m_model.Sizes();
     const double ratio = devicePixelRatioF();
-    std::optional<std::pair<int, int>> selection;
-    if (m_mouseState == MouseState::Dragging)
-        selection = {m_dragStartX, m_dragX};
     painter.save();
     painter.setClipRect(sizes.gaugeWidth, 0, sizes.PlotBitmapWidth(),
                         height() - sizes.horzScrollHeight);
     painter.translate(sizes.gaugeWidth, 0);
     painter.scale(1.0 / ratio, 1.0 / ratio);
-    m_painter->Compose(painter, m_chartBitmap, m_timeBitmap, selection);
+    ComposeView(painter);
     painter.restore();
+}
+
+void CChartWnd::ComposeView(QPainter& painter)
+{
+    std::optional<std::pair<int, int>> selection;
+    if (m_mouseState == MouseState::Dragging)
+        selection = {m_dragStartX, m_dragX};
+    m_painter->Compose(painter, m_chartBitmap, m_timeBitmap, selection);
 }
 
 void CChartWnd::PaintCorners(QPainter& painter) const

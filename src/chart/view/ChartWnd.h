@@ -56,6 +56,10 @@ public:
     bool BeginAreaSelection();
     void CancelAreaSelection();
 
+    /// Puts what the chart shows now on the clipboard, with title and legend. False if that can
+    /// not be done.
+    [[nodiscard]] bool CopyToClipboard();
+
     /// Size of the printed chart before it is scaled, in pixels of the screen.
     [[nodiscard]] QSize GetNaturalSize() const;
     /// Draws the chart's page from the device's left top on, `width` by `height` device pixels
@@ -97,6 +101,7 @@ private:
     void PaintLayers(ChartWork work);
     void UpdateScrollBars();
     void PaintPicture(QPainter& painter);
+    void ComposeView(QPainter& painter);
     void PaintCorners(QPainter& painter) const;
     [[nodiscard]] ChartRect PlotHit() const;
 

@@ -66,6 +66,12 @@ std::string NameBytes(const QString& text)
     return bytes;
 }
 
+bool IsFileName(const QString& name)
+{
+    return name != QLatin1String(".") && name != QLatin1String("..") &&
+           NameText(NameBytes(name)) == name;
+}
+
 bool IsSameName(const QString& a, const QString& b)
 {
     return a.compare(b, Qt::CaseInsensitive) == 0;

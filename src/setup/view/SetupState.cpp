@@ -115,8 +115,7 @@ HostNumberOffer CSetupState::OfferHostNumber(int shown) const
 
 std::error_code CSetupState::Add()
 {
-    // Words for folders are no names, even though a file could be called so.
-    if (m_strName == QLatin1String(".") || m_strName == QLatin1String(".."))
+    if (!IsFileName(m_strName))
         return std::make_error_code(std::errc::invalid_argument);
     CMeasureCondition copy = m_current;
     copy.ProfileName = NameBytes(m_strName);
@@ -137,7 +136,10 @@ std::error_code CSetupState::Update()
     CMeasureCondition copy = m_current;
     // A name typed in another letter case means the file that is there.
     const std::string stored = m_store.GetAt(m_nStoreIndex).ProfileName;
-    copy.ProfileName = IsSameName(m_strName, NameText(stored)) ? stored : NameBytes(m_strName);
+    const bool isStored = IsSameName(m_strName, NameText(stored));
+    if (!isStored && !IsFileName(m_strName))
+        return std::make_error_code(std::errc::invalid_argument);
+    copy.ProfileName = isStored ? stored : NameBytes(m_strName);
     if (const std::error_code error = copy.Save())
         return error;
     m_current = copy;

@@ -1,7 +1,5 @@
 #include "setup/view/ProfileFolder.h"
 
-#include "support/Process.h"
-
 #include <QDir>
 
 namespace skeldon::test {
@@ -23,21 +21,21 @@ void Write(const fs::path& folder, const std::string& title, const std::string& 
 CProfileFolder::CProfileFolder()
     : m_earlier(qgetenv(DataHome))
 {
-    qputenv(DataHome, m_folder.filePath(QStringLiteral("data")).toUtf8());
+    qputenv(DataHome, QByteArray::fromStdString((m_folder / "data").string()));
     fs::create_directories(Profiles());
 }
 
 CProfileFolder::~CProfileFolder()
 {
-    qputenv(DataHome, m_earlier);
     std::error_code ignored;
     fs::permissions(Profiles(), fs::perms::owner_all, ignored);
+    qputenv(DataHome, m_earlier);
 }
 
 ProfileFolders CProfileFolder::Folders() const
 {
     ProfileFolders folders = FindProfileFolders();
-    folders.templates = m_folder.filePath(QStringLiteral("Template")).toStdString();
+    folders.templates = m_folder / "Template";
     return folders;
 }
 

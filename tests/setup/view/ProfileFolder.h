@@ -2,10 +2,10 @@
 
 #include "setup/conditions/MeasureCondition.h"
 #include "setup/conditions/ProfileFolders.h"
+#include "support/TemporaryFolder.h"
 
 #include <QByteArray>
 #include <QStringList>
-#include <QTemporaryDir>
 
 #include <string>
 
@@ -32,7 +32,7 @@ public:
     [[nodiscard]] CMeasureCondition Read(const std::string& title) const;
 
 private:
-    QTemporaryDir m_folder;
+    CTemporaryFolder m_folder;
     QByteArray m_earlier;
 };
 

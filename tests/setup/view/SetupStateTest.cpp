@@ -3,6 +3,7 @@
 #include <QTest>
 
 using namespace skeldon;
+using skeldon::test::CCrateShown;
 using skeldon::test::CProfileFolder;
 using skeldon::test::CShown;
 
@@ -151,10 +152,7 @@ void SetupStateTest::AddStoresAndSelects()
 
 void SetupStateTest::UpdateWantsTheLoadedName()
 {
-    const CProfileFolder folder;
-    folder.WriteProfile("crate", "SerialNo=1\r\n");
-    CShown state(folder);
-    state.Choose("01 crate");
+    CCrateShown state;
     state.m_current.Hazard = 10;
     QVERIFY(state.CanUpdate());
     QVERIFY(!state.CanAdd());
@@ -168,10 +166,7 @@ void SetupStateTest::UpdateWantsTheLoadedName()
 
 void SetupStateTest::UpdateWantsADifference()
 {
-    const CProfileFolder folder;
-    folder.WriteProfile("crate", "SerialNo=1\r\n");
-    CShown state(folder);
-    state.Choose("01 crate");
+    CCrateShown state;
     QVERIFY(!state.CanUpdate());
     state.m_current.ClearData = 2;
     QVERIFY(state.CanUpdate());
@@ -182,11 +177,7 @@ void SetupStateTest::UpdateWantsADifference()
 
 void SetupStateTest::UpdateWantsANumberOfItsOwn()
 {
-    const CProfileFolder folder;
-    folder.WriteProfile("crate", "SerialNo=1\r\n");
-    folder.WriteProfile("box", "SerialNo=2\r\n");
-    CShown state(folder);
-    state.Choose("01 crate");
+    CCrateShown state(2);
     state.m_current.SerialNo = 2;
     QVERIFY(!state.CanUpdate());
     state.m_current.SerialNo = 3;
@@ -195,18 +186,14 @@ void SetupStateTest::UpdateWantsANumberOfItsOwn()
 
 void SetupStateTest::UpdateMovesTheLineToItsNewNumber()
 {
-    const CProfileFolder folder;
-    folder.WriteProfile("crate", "SerialNo=1\r\n");
-    folder.WriteProfile("box", "SerialNo=5\r\n");
-    CShown state(folder);
-    state.Choose("01 crate");
+    CCrateShown state(5);
     state.m_current.SerialNo = 9;
     QVERIFY(!state.Update());
     QCOMPARE(state.Texts(), QStringList({"05 box", "09 crate"}));
     QCOMPARE(state.m_nListSel, 1);
     QCOMPARE(state.m_lines.At(1).storeIndex, state.m_nStoreIndex);
     QCOMPARE(state.m_store.GetAt(state.m_nStoreIndex).SerialNo, 9);
-    QCOMPARE(folder.Read("crate").SerialNo, 9);
+    QCOMPARE(state.m_folder.Read("crate").SerialNo, 9);
     QVERIFY(!state.CanUpdate());
 }
 
@@ -226,10 +213,7 @@ void SetupStateTest::UpdateKeepsTheFileWhateverTheLetterCase()
 
 void SetupStateTest::UpdateShowsWhatWasReceived()
 {
-    const CProfileFolder folder;
-    folder.WriteProfile("crate", "SerialNo=1\r\n");
-    CShown state(folder);
-    state.Choose("01 crate");
+    CCrateShown state;
     CMeasureCondition received;
     received.SerialNo = 8;
     state.TakeReceived(received);
@@ -238,20 +222,17 @@ void SetupStateTest::UpdateShowsWhatWasReceived()
     QVERIFY(state.CanUpdate());
     QVERIFY(!state.Update());
     QCOMPARE(state.Texts(), QStringList("08 crate"));
-    QCOMPARE(folder.Read("crate").SerialNo, 8);
+    QCOMPARE(state.m_folder.Read("crate").SerialNo, 8);
 }
 
 void SetupStateTest::UpdateStoresAReceivedNumberZero()
 {
-    const CProfileFolder folder;
-    folder.WriteProfile("crate", "SerialNo=1\r\n");
-    CShown state(folder);
-    state.Choose("01 crate");
+    CCrateShown state;
     state.TakeReceived({});
     state.m_current.Endless = true;
     QVERIFY(state.CanUpdate());
     QVERIFY(!state.Update());
-    QCOMPARE(folder.Read("crate").SerialNo, 0);
+    QCOMPARE(state.m_folder.Read("crate").SerialNo, 0);
     QCOMPARE(state.Texts(), QStringList("00 crate"));
 }
 
@@ -278,10 +259,7 @@ void SetupStateTest::DeleteTakesTheFileAndTheConditions()
 
 void SetupStateTest::ProfilesStayAsTheyAreWhereThatIsSet()
 {
-    const CProfileFolder folder;
-    folder.WriteProfile("crate", "SerialNo=1\r\n");
-    CShown state(folder);
-    state.Choose("01 crate");
+    CCrateShown state;
     state.m_current.Hazard = 10;
     QVERIFY(state.CanUpdate() && state.CanDelete());
     state.m_bNoProfileUpdate = true;

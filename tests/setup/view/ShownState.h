@@ -38,4 +38,30 @@ public:
     }
 };
 
+/// A folder with the profile "crate" of host number 1 and, unless `boxNumber` is 0, "box" of that
+/// number.
+struct CrateFolder
+{
+    explicit CrateFolder(int boxNumber)
+    {
+        m_folder.WriteProfile("crate", "SerialNo=1\r\n");
+        if (boxNumber != 0)
+            m_folder.WriteProfile("box", "SerialNo=" + std::to_string(boxNumber) + "\r\n");
+    }
+
+    const CProfileFolder m_folder;
+};
+
+/// A state with a folder of its own, in which "crate" is chosen.
+class CCrateShown : public CrateFolder, public CShown
+{
+public:
+    explicit CCrateShown(int boxNumber = 0)
+        : CrateFolder(boxNumber)
+        , CShown(m_folder)
+    {
+        Choose("01 crate");
+    }
+};
+
 } // namespace skeldon::test

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "app/Colour.h"
 #include "dataview/DataViewLayout.h"
 #include "resources/Commands.h"
 #include "resources/Pictures.h"
@@ -21,8 +20,6 @@ struct ButtonForm
     StringId name = StringId::Count; ///< for screen readers and as a tool tip
     std::uint16_t series = 0;        ///< bit of the chart's series; 0 of any other button
     const char* shownKey = nullptr;  ///< of a series: where its being shown is remembered
-    const char* colourKey = nullptr; ///< of a series: where its colour is remembered
-    ColourRef colour = 0;            ///< of a series: the colour without a remembered one
 
     [[nodiscard]] bool IsSeries() const { return series != 0; }
     /// An axis: its picture is its letter.

@@ -97,10 +97,12 @@ private:
 
     // Commands.
     bool OnChartCommand(CommandId command);
+    [[nodiscard]] CommandState StateAtRest(CommandId command) const;
     [[nodiscard]] CommandState DormantState(CommandId command) const;
     void ToggleSeries(const ButtonForm& series);
     void ToggleZoomIn();
     void SetDispUnit(DispUnit unit);
+    void ChangeChartProperties();
     void LeaveForSetup();
     void Exit();
     void OnMeasureGraph(MeasureGraphCode code, int argument);
@@ -116,6 +118,8 @@ private:
     bool SaveTo(const std::filesystem::path& target);
     void ExportCsvFile();
     void CopyCsv();
+    void CopyChart();
+    void TellCopied(bool isCopied);
     [[nodiscard]] QString ProposedName() const;
     [[nodiscard]] QString FolderOf(const char* key) const;
 

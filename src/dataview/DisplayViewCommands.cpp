@@ -2,6 +2,7 @@
 #include "dataview/DisplayView.h"
 
 #include "app/SkeldonApp.h"
+#include "chart/view/ChartPropertyDialog.h"
 #include "chart/view/ChartWnd.h"
 #include "controls/SkinButton.h"
 #include "dataview/ButtonForms.h"
@@ -27,6 +28,15 @@ const ButtonForm* SeriesOf(CommandId command)
 } // namespace
 
 CommandState CDisplayView::StateOf(CommandId command) const
+{
+    CommandState state = StateAtRest(command);
+    // In the middle of an operation, and while an area is dragged out, nothing at all can be done.
+    if (m_bBusy || !m_chart->CanRedraw())
+        state.isEnabled = false;
+    return state;
+}
+
+CommandState CDisplayView::StateAtRest(CommandId command) const
 {
     if (const ButtonForm* const series = SeriesOf(command))
         return {CanOperate(), Button(series->button).IsPressed()};
@@ -63,9 +73,11 @@ CommandState CDisplayView::StateOf(CommandId command) const
     case CommandId::VerticalDeflate:
         return {CanScaleDown()};
     case CommandId::DisplayAllArea:
-        return {CanOperate() && m_chart->Model().CanDisplayAllArea()};
+        return {m_chart->Model().CanDisplayAllArea()};
     case CommandId::DisplayInCenter:
-        return {CanOperate() && m_chart->Model().CanDisplayInCenter()};
+        return {m_chart->Model().CanDisplayInCenter()};
+    case CommandId::CopyChart:
+        return {m_chart->Model().Count() >= 1};
     case CommandId::UnitG:
         return {CanOperate(), unit == DispUnit::G};
     case CommandId::UnitMs2:
@@ -152,6 +164,10 @@ void CDisplayView::OnCommand(CommandId command)
         return RunOnlineConfig(this);
     case CommandId::SelectArea:
         return ToggleZoomIn();
+    case CommandId::CopyChart:
+        return CopyChart();
+    case CommandId::ChartProperties:
+        return ChangeChartProperties();
     case CommandId::UnitG:
         return SetDispUnit(DispUnit::G);
     case CommandId::UnitMs2:
@@ -224,6 +240,15 @@ void CDisplayView::SetDispUnit(DispUnit unit)
     App().m_dispUnit = static_cast<int>(unit);
     m_chart->SetDisplayUnit(static_cast<DisplayUnit>(unit));
     m_list->OnUnitChanged();
+}
+
+void CDisplayView::ChangeChartProperties()
+{
+    if (!RunChartProperties(this))
+        return;
+    Pump();
+    ReadChartSettings();
+    RefreshControls(); // what the pump let through saw the view busy
 }
 
 void CDisplayView::LeaveForSetup()

@@ -8,6 +8,7 @@
 #include "app/SkeldonApp.h"
 #include "app/WaitCursor.h"
 #include "base/Paths.h"
+#include "chart/view/ChartWnd.h"
 #include "files/CsvFile.h"
 #include "files/DataFile.h"
 #include "resources/FileFilters.h"
@@ -162,14 +163,23 @@ void CDisplayView::CopyCsv()
     lines.push_back(text.Header(LocalCsvNames()));
     for (const CMeasureRecord& record : m_data.Records())
         lines.push_back(text.Row(record));
-    if (CopyLinesToClipboard(lines)) {
-        App().Prompts().Beep();
+    TellCopied(CopyLinesToClipboard(lines));
+}
+
+void CDisplayView::CopyChart()
+{
+    TellCopied(m_chart->CopyToClipboard());
+}
+
+void CDisplayView::TellCopied(bool isCopied)
+{
+    App().Prompts().Beep();
+    if (isCopied) {
         SetStatusText(Text(StringId::CopiedToClipboard));
-    } else {
-        App().Prompts().Beep();
-        ResetStatus();
-        Warn(StringId::CannotCopy);
+        return;
     }
+    ResetStatus();
+    Warn(StringId::CannotCopy);
 }
 
 } // namespace skeldon

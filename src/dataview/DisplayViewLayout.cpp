@@ -3,6 +3,7 @@
 
 #include "app/DataText.h"
 #include "app/SkeldonApp.h"
+#include "chart/view/ChartSettings.h"
 #include "chart/view/ChartWnd.h"
 #include "chart/view/PrintSettingsStore.h"
 #include "controls/ConnectionIcon.h"
@@ -64,22 +65,20 @@ void CDisplayView::SetUpButtons()
 
 void CDisplayView::ReadChartSettings()
 {
-    const CSettings& settings = App().Settings();
-    const auto colour = [&settings](const char* key, ColourRef fallback) {
-        return static_cast<ColourRef>(
-            settings.GetInt(SystemSection, KeyOf(key), static_cast<int>(fallback)));
-    };
+    const ChartProperties properties = ReadChartProperties(App().Settings());
     ChartColours colours;
-    for (const Series series : AllSeries)
-        colours.series[Index(series)] = colour(Info(series).colourKey, Info(series).defaultColour);
-    colours.item = colour(ItemColourKey, DefaultItemColour);
-    for (const ButtonForm& form : ButtonForms()) {
-        if (form.IsSeries())
-            Button(form.button).SetSwatchColour(colour(form.colourKey, form.colour));
+    colours.item = properties.colours[ItemColourIndex];
+    for (const Series series : AllSeries) {
+        const ColourRef colour = properties.colours[Index(series)];
+        colours.series[Index(series)] = colour;
+        for (const ButtonForm& form : ButtonForms()) {
+            if (form.series == Info(series).mask)
+                Button(form.button).SetSwatchColour(colour);
+        }
     }
     m_chart->SetColours(colours);
-    m_chart->SetLineWeight(settings.GetInt(SystemSection, QStringLiteral("DrawGraphPic"), 1));
-    m_chart->SetElapsedAxis(settings.GetInt(SystemSection, QStringLiteral("GraphHorz"), 0) != 0);
+    m_chart->SetLineWeight(properties.screenWeight);
+    m_chart->SetElapsedAxis(properties.isElapsed);
 }
 
 void CDisplayView::ReadGeneralSettings()

@@ -148,9 +148,8 @@ QImage ChartPicture(const CChartModel& model, const ChartColours& colours, const
     painter.SetScale(ratio, ratio);
     painter.PaintChart(layer);
     painter.PaintTimeStrip(strip, 0);
-    return FrameChart(sizes, colours, font, title, ratio, [&](QPainter& view) {
-        painter.Compose(view, layer, strip, std::nullopt);
-    });
+    return FrameChart(sizes, colours, font, title, ratio,
+                      [&](QPainter& view) { painter.Compose(view, layer, strip, std::nullopt); });
 }
 
 } // namespace skeldon

@@ -13,14 +13,18 @@ CFrameMenus::CFrameMenus(Give give, Ask ask, QObject* parent)
     , m_ask(std::move(ask))
 {}
 
-QMenuBar* CFrameMenus::MakeBar(const Menu& menu, QWidget* parent)
+QMenuBar* CFrameMenus::MakeBar(Menu menu, QWidget* parent)
 {
     auto* const bar = new QMenuBar(parent);
-    for (const MenuEntry& entry : menu) {
-        QMenu* const popup = bar->addMenu(Text(entry.text));
-        Fill(*popup, entry.entries);
-    }
+    for (MenuEntry& entry : menu)
+        m_unfilled.emplace_back(bar->addMenu(Text(entry.text)), std::move(entry.entries));
     return bar;
+}
+
+void CFrameMenus::FillBars()
+{
+    for (const auto& [popup, entries] : std::exchange(m_unfilled, {}))
+        Fill(*popup, entries);
 }
 
 void CFrameMenus::Fill(QMenu& target, const Menu& menu)

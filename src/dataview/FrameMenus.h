@@ -7,6 +7,8 @@
 #include <QObject>
 
 #include <functional>
+#include <utility>
+#include <vector>
 
 namespace skeldon {
 
@@ -23,8 +25,9 @@ public:
     /// `give` carries a command out, `ask` tells its state.
     CFrameMenus(Give give, Ask ask, QObject* parent);
 
-    /// A bar with the entries of `menu`, owned by `parent`.
-    [[nodiscard]] QMenuBar* MakeBar(const Menu& menu, QWidget* parent);
+    /// A bar with the titles of `menu`, owned by `parent`; `FillBars` gives it the entries.
+    [[nodiscard]] QMenuBar* MakeBar(Menu menu, QWidget* parent);
+    void FillBars();
 
 private:
     void Fill(QMenu& target, const Menu& menu);
@@ -32,6 +35,7 @@ private:
 
     Give m_give;
     Ask m_ask;
+    std::vector<std::pair<QMenu*, Menu>> m_unfilled;
 };
 
 } // namespace skeldon

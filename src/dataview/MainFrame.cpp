@@ -67,8 +67,35 @@ CMainFrame::~CMainFrame()
 
 bool CMainFrame::BuildViews(ViewIndex first)
 {
+    MakeSetupView();
+    if (first != ViewIndex::Setup) {
+        MakeDisplayView();
+        m_bFirstSwitch = true;
+        SwitchView(ViewIndex::Setup);
+        m_bFirstSwitch = false;
+    }
+    SwitchView(first);
+    show();
+    // What nobody sees yet is made behind the first window.
+    if (m_display == nullptr)
+        MakeDisplayView();
+    m_frameMenus->FillBars();
+    MakeMonitor();
+    m_poll->Start();
+    m_bStarted = true;
+    return true;
+}
+
+void CMainFrame::MakeSetupView()
+{
     m_setup = new CSetupView(centralWidget());
     m_views->addWidget(m_setup);
+    connect(&m_document, &CSkeldonDoc::Updated, m_setup, &CView::OnUpdate);
+    m_setup->OnInitialUpdate();
+}
+
+void CMainFrame::MakeDisplayView()
+{
     auto* const border = new QFrame(centralWidget());
     border->setFrameStyle(static_cast<int>(QFrame::Panel) | static_cast<int>(QFrame::Sunken));
     border->setLineWidth(ViewBorder);
@@ -77,21 +104,8 @@ bool CMainFrame::BuildViews(ViewIndex first)
     inside->addWidget(m_display);
     inside->setContentsMargins(ViewBorder, ViewBorder, ViewBorder, ViewBorder);
     m_views->addWidget(border);
-    for (CView* const view : {static_cast<CView*>(m_setup), static_cast<CView*>(m_display)})
-        connect(&m_document, &CSkeldonDoc::Updated, view, &CView::OnUpdate);
-    m_setup->OnInitialUpdate();
+    connect(&m_document, &CSkeldonDoc::Updated, m_display, &CView::OnUpdate);
     m_display->OnInitialUpdate();
-    if (first != ViewIndex::Setup) {
-        m_bFirstSwitch = true;
-        SwitchView(ViewIndex::Setup);
-        m_bFirstSwitch = false;
-    }
-    SwitchView(first);
-    show();
-    MakeMonitor();
-    m_poll->Start();
-    m_bStarted = true;
-    return true;
 }
 
 CView& CMainFrame::ViewOf(ViewIndex view) const
@@ -134,7 +148,8 @@ void CMainFrame::MakeMenus()
         RemoveFirstEntry(setup, CommandId::Monitor);
         RemoveFirstEntry(display, CommandId::Monitor);
     }
-    m_menus = {m_frameMenus->MakeBar(setup, this), m_frameMenus->MakeBar(display, this)};
+    m_menus = {m_frameMenus->MakeBar(std::move(setup), this),
+               m_frameMenus->MakeBar(std::move(display), this)};
     for (QMenuBar* const bar : m_menus)
         bar->hide();
 }

@@ -67,6 +67,8 @@ private:
     static constexpr int PaneCount = 3;
 
     [[nodiscard]] CView& ViewOf(ViewIndex view) const;
+    void MakeSetupView();
+    void MakeDisplayView();
     void MakeStatusBar();
     void MakeMenus();
     void MakeAccelerators();

@@ -3,6 +3,8 @@
 #include "app/PumpMessages.h"
 #include "app/SkeldonApp.h"
 #include "app/WaitCursor.h"
+#include "controls/PixelLine.h"
+#include "controls/Theme.h"
 #include "dataview/ListPage.h"
 #include "dataview/MeasuredListModel.h"
 #include "resources/StringTable.h"
@@ -38,13 +40,20 @@ QString WidthKey(int column)
     return QStringLiteral("ClmnWidth%1").arg(column);
 }
 
-/// Titles that are cut show so: the toolkit's header measures them against its own whole width.
+/// Titles that are cut show so: the toolkit's header measures them against its own whole width. Its
+/// height is that of one line, so that no title is measured for it.
 class CListHeader final : public QHeaderView
 {
 public:
     explicit CListHeader(QWidget* parent)
         : QHeaderView(Qt::Horizontal, parent)
     {}
+
+    [[nodiscard]] QSize sizeHint() const override
+    {
+        const int margin = style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, this);
+        return {length(), fontMetrics().height() + 2 * margin};
+    }
 
 protected:
     void initStyleOptionForIndex(QStyleOptionHeader* option, int logicalIndex) const override
@@ -65,6 +74,7 @@ CMeasuredList::CMeasuredList(QWidget* parent)
     QFont summary = font();
     summary.setPixelSize(LetterSize);
     setFont(summary);
+    SinkIntoForm(*this);
     setAccessibleName(Text(StringId::NameMeasuredList));
     m_model->SetTextSource([this](std::size_t row, ListColumn column) {
         return m_pData != nullptr && row < m_pData->GetSize()
@@ -302,8 +312,8 @@ void CMeasuredList::PaintCell(QPainter& painter, const QRect& rect, std::size_t 
                                                                     : App().m_viewBaseColour);
     painter.fillRect(rect, back);
     const QColor grid = ToColour(isNumber ? NumberGrid : Grid);
-    painter.fillRect(rect.left(), rect.bottom() - 1, rect.width(), 1, grid);
-    painter.fillRect(rect.right() - 1, rect.top(), 1, rect.height(), grid);
+    FillLine(painter, {rect.left(), rect.bottom() - 1, rect.width(), 1}, grid);
+    FillLine(painter, {rect.right() - 1, rect.top(), 1, rect.height()}, grid);
     painter.setPen(isDark ? Qt::white : Qt::black);
     painter.drawText(rect.adjusted(TextInset, 0, 0, 0),
                      Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine,
@@ -315,9 +325,9 @@ void CMeasuredList::PaintFocus(QPainter& painter, const QRect& row)
     // Inverted lines on three sides, whatever lies under them.
     const int width = row.width();
     painter.setCompositionMode(QPainter::CompositionMode_Difference);
-    painter.fillRect(row.left(), row.top(), width - 2, 1, Qt::white);
-    painter.fillRect(row.left(), row.top() + row.height() - 3, width - 2, 1, Qt::white);
-    painter.fillRect(row.left() + width - 3, row.top() + 1, 1, row.height() - 4, Qt::white);
+    FillLine(painter, {row.left(), row.top(), width - 2, 1}, Qt::white);
+    FillLine(painter, {row.left(), row.top() + row.height() - 3, width - 2, 1}, Qt::white);
+    FillLine(painter, {row.left() + width - 3, row.top() + 1, 1, row.height() - 4}, Qt::white);
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
 }
 

@@ -147,6 +147,15 @@ int NearestEdge(double position)
     return static_cast<int>(std::floor(position + 0.5));
 }
 
+constexpr std::array IconSizes{16, 22, 24, 32, 48, 64, 128, 256};
+
+QImage IconPicture(int size)
+{
+    constexpr int SmallestLarge = 24;
+    const PictureId id = size < SmallestLarge ? PictureId::AppIconSmall : PictureId::AppIcon;
+    return Picture(id, static_cast<double>(size) / PictureSize(id).width());
+}
+
 PictureId OutlineOf(PictureId id)
 {
     switch (id) {
@@ -188,19 +197,26 @@ QImage Picture(PictureId id, double ratio)
     const Source* source = SourceOf(id);
     if (source == nullptr || !(ratio > 0))
         return {};
-    const std::lock_guard lock(guard);
-    const auto [entry, isNew] = drawn.try_emplace({id, ratio});
-    if (isNew) {
-        const QSize pixels = PicturePixels(QRect(QPoint(), PictureSize(id)), ratio).size();
-        entry->second = Render(*source, pixels, ratio);
+    const std::pair key(id, ratio);
+    {
+        const std::lock_guard lock(guard);
+        const auto found = drawn.find(key);
+        if (found != drawn.end())
+            return found->second;
     }
-    return entry->second;
+    // Drawn outside the lock: a window never waits for a picture that another thread prepares.
+    const QSize pixels = PicturePixels(QRect(QPoint(), PictureSize(id)), ratio).size();
+    QImage image = Render(*source, pixels, ratio);
+    const std::lock_guard lock(guard);
+    return drawn.try_emplace(key, std::move(image)).first->second;
 }
 
 void PreparePictures(double ratio)
 {
     for (int id = 0; id <= static_cast<int>(PictureId::Connection); ++id)
         (void)Picture(static_cast<PictureId>(id), ratio);
+    for (const int size : IconSizes)
+        (void)IconPicture(size);
 }
 
 QImage ColouredPicture(PictureId id, const QColor& colour, double ratio)
@@ -235,11 +251,9 @@ QPoint PictureHotSpot(PictureId id)
 
 QIcon ApplicationIcon()
 {
-    constexpr int SmallestLarge = 24;
     QIcon icon;
-    for (const int size : {16, 22, 24, 32, 48, 64, 128, 256}) {
-        const PictureId id = size < SmallestLarge ? PictureId::AppIconSmall : PictureId::AppIcon;
-        QImage image = Picture(id, static_cast<double>(size) / PictureSize(id).width());
+    for (const int size : IconSizes) {
+        QImage image = IconPicture(size);
         image.setDevicePixelRatio(1);
         icon.addPixmap(QPixmap::fromImage(image));
     }

@@ -104,8 +104,8 @@ inline constexpr int ButtonFaceHeight = 28;
 /// The picture at `ratio` device pixels per logical pixel, with that ratio set, drawn once and then
 /// remembered. Null where there is no such picture.
 [[nodiscard]] QImage Picture(PictureId id, double ratio);
-/// Draws the pictures that the first window shows, so that they are at hand: for a thread beside
-/// the one that makes the window. Any thread may ask for pictures.
+/// Draws the pictures that the first window shows, and the program's icon, so that they are at
+/// hand: for a thread beside the one that makes the window. Any thread may ask for pictures.
 void PreparePictures(double ratio);
 
 /// The device pixels of `part`, a part of a picture in logical pixels. Each edge goes to the

@@ -11,18 +11,46 @@
 
 #include <QApplication>
 #include <QLocale>
+#include <QThread>
 
 #include <memory>
-#include <thread>
 
 using namespace skeldon;
 
+namespace {
+
+struct WaitAndDelete
+{
+    void operator()(QThread* thread) const
+    {
+        thread->wait();
+        delete thread;
+    }
+};
+
+/// Draws the pictures while the window is being made, on time that nobody else wants. The icon
+/// comes when it has been drawn: the first window does not wait for it.
+std::unique_ptr<QThread, WaitAndDelete> DrawPicturesBeside(QApplication& application)
+{
+    std::unique_ptr<QThread, WaitAndDelete> thread(
+        QThread::create([&application, ratio = application.devicePixelRatio()] {
+            PreparePictures(ratio);
+            QMetaObject::invokeMethod(
+                &application, [] { QApplication::setWindowIcon(ApplicationIcon()); },
+                Qt::QueuedConnection);
+        }));
+    thread->start(QThread::IdlePriority);
+    return thread;
+}
+
+} // namespace
+
 int main(int argc, char** argv)
 {
+    // The two bars change places in the window itself.
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
     QApplication application(argc, argv);
-    const std::jthread pictures(
-        [ratio = application.devicePixelRatio()] { PreparePictures(ratio); });
-    QApplication::setWindowIcon(ApplicationIcon());
+    const auto pictures = DrawPicturesBeside(application);
     QApplication::setApplicationName(QStringLiteral("SKELDON Light"));
     QApplication::setApplicationVersion(QString::fromLatin1(ProgramVersion));
     QApplication::setDesktopFileName(QStringLiteral("skeldon-light"));

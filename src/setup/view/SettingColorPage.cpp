@@ -18,7 +18,7 @@ CSettingColorPage::CSettingColorPage(QWidget* parent)
 {
     auto* const layout = new QVBoxLayout(this);
     layout->addWidget(MakeRadioGroup(Text(StringId::DisplayColor), {m_classic, m_windowsXp}));
-    layout->addStretch();
+    layout->addStretch(1);
 }
 
 void CSettingColorPage::OnInitDialog()

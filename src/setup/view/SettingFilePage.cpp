@@ -23,7 +23,7 @@ CSettingFilePage::CSettingFilePage(QWidget* parent)
     layout->addWidget(MakeRadioGroup(Text(StringId::FileWizard), {m_interactively, m_cardForm}));
     layout->addWidget(MakeRadioGroup(Text(StringId::FileConfirmSaved), {m_prompt, m_notPrompt}));
     layout->addWidget(m_prohibitUpdate);
-    layout->addStretch();
+    layout->addStretch(1);
 }
 
 void CSettingFilePage::OnInitDialog()

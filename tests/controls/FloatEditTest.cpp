@@ -1,8 +1,6 @@
 #include "controls/FloatEdit.h"
+#include "controls/EditForm.h"
 #include "controls/FloatComboEdit.h"
-#include "controls/Pixels.h"
-#include "resources/Translation.h"
-#include "support/window/TestApp.h"
 
 #include <QClipboard>
 #include <QInputMethodEvent>
@@ -12,7 +10,7 @@ using namespace skeldon;
 using namespace skeldon::test;
 
 /// The box for decimals under real keys.
-class FloatEditTest : public QObject
+class FloatEditTest : public QObject, private CEditForm<CFloatEdit>
 {
     Q_OBJECT
 
@@ -33,39 +31,17 @@ private slots:
     void EmptyTextIsInvalid();
     void PastedTextIsCheckedByGetValue();
     void ComboTypesAndChooses();
-
-private:
-    void StartIn(const QString& language);
-
-    std::unique_ptr<CTestApp> m_app;
-    std::unique_ptr<QWidget> m_form;
-    CFloatEdit* m_edit = nullptr;
 };
-
-void FloatEditTest::StartIn(const QString& language)
-{
-    m_form.reset();
-    m_app.reset();
-    m_app = std::make_unique<CTestApp>(language);
-    QVERIFY(InstallTranslation(m_app->m_app->IsJapanese()));
-    m_form = std::make_unique<QWidget>();
-    m_form->resize(300, 100);
-    m_edit = new CFloatEdit(m_form.get());
-    m_edit->SetRange(-10, 50, 2);
-    QVERIFY(ShowActive(*m_form));
-    m_edit->setFocus();
-}
 
 void FloatEditTest::init()
 {
     StartIn(QStringLiteral("English"));
+    m_edit->SetRange(-10, 50, 2);
 }
 
 void FloatEditTest::cleanup()
 {
-    m_form.reset();
-    m_app.reset();
-    InstallTranslation(false);
+    Close();
 }
 
 void FloatEditTest::TypedTextKeepsRule_data()
@@ -97,33 +73,33 @@ void FloatEditTest::TypedTextKeepsRule()
     m_edit->SetRange(lower, 50, decimals);
     QTest::keyClicks(m_edit, typed);
     QCOMPARE(m_edit->text(), text);
-    QCOMPARE(m_app->m_prompts->m_beeps, 0);
+    QCOMPARE(Beeps(), 0);
 }
 
 void FloatEditTest::ThirdDecimalShowsMessage()
 {
     QTest::keyClicks(m_edit, QStringLiteral("1.25"));
-    QVERIFY(m_app->m_frame.m_status.isEmpty());
+    QVERIFY(Status().isEmpty());
     QTest::keyClick(m_edit, Qt::Key_3);
     QCOMPARE(m_edit->text(), QStringLiteral("1.25"));
-    QCOMPARE(m_app->m_frame.m_status, QStringLiteral("Decimals are allowed to 2."));
-    QCOMPARE(m_app->m_prompts->m_beeps, 1);
+    QCOMPARE(Status(), QStringLiteral("Decimals are allowed to 2."));
+    QCOMPARE(Beeps(), 1);
 }
 
 void FloatEditTest::SecondPointIsRefusedSilently()
 {
     QTest::keyClicks(m_edit, QStringLiteral("1.2."));
     QCOMPARE(m_edit->text(), QStringLiteral("1.2"));
-    QVERIFY(m_app->m_frame.m_status.isEmpty());
-    QCOMPARE(m_app->m_prompts->m_beeps, 0);
+    QVERIFY(Status().isEmpty());
+    QCOMPARE(Beeps(), 0);
 }
 
 void FloatEditTest::SixteenthDigitIsRefusedSilently()
 {
     QTest::keyClicks(m_edit, QStringLiteral("1234567890123456"));
     QCOMPARE(m_edit->text(), QStringLiteral("123456789012345"));
-    QVERIFY(m_app->m_frame.m_status.isEmpty());
-    QCOMPARE(m_app->m_prompts->m_beeps, 0);
+    QVERIFY(Status().isEmpty());
+    QCOMPARE(Beeps(), 0);
 }
 
 void FloatEditTest::SelectionIsTakenIntoAccount()
@@ -143,7 +119,7 @@ void FloatEditTest::CharacterInsideIsJudgedByWholeText()
     m_edit->setCursorPosition(1);
     QTest::keyClick(m_edit, Qt::Key_Period); // would leave three decimals
     QCOMPARE(m_edit->text(), QStringLiteral("1234"));
-    QCOMPARE(m_app->m_prompts->m_beeps, 1);
+    QCOMPARE(Beeps(), 1);
     m_edit->setCursorPosition(2);
     QTest::keyClick(m_edit, Qt::Key_Period);
     QCOMPARE(m_edit->text(), QStringLiteral("12.34"));
@@ -159,7 +135,7 @@ void FloatEditTest::InputMethodIsFiltered()
                                             "56"));
     QApplication::sendEvent(m_edit, &event);
     QCOMPARE(m_edit->text(), QStringLiteral("1.25"));
-    QCOMPARE(m_app->m_prompts->m_beeps, 1);
+    QCOMPARE(Beeps(), 1);
 }
 
 void FloatEditTest::SetValueDoesNotClamp()
@@ -175,9 +151,7 @@ void FloatEditTest::SetValueDoesNotClamp()
 
 void FloatEditTest::InvalidTextIsReported_data()
 {
-    QTest::addColumn<QString>("language");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("message");
+    AddMessageColumns();
 
     QTest::newRow("English") << QStringLiteral("English") << QString()
                              << QStringLiteral("Input the value of 19.8 from 0.2.");
@@ -206,8 +180,8 @@ void FloatEditTest::InvalidTextIsReported()
     double value = 0;
     QVERIFY(!m_edit->GetValue(value));
     QCOMPARE(value, 0.2);
-    QCOMPARE(m_app->m_frame.m_status, message);
-    QCOMPARE(m_app->m_prompts->m_beeps, 1);
+    QCOMPARE(Status(), message);
+    QCOMPARE(Beeps(), 1);
     QVERIFY(m_edit->hasFocus());
     QCOMPARE(m_edit->selectedText(), QStringLiteral("0.1"));
 }
@@ -217,7 +191,7 @@ void FloatEditTest::EmptyTextIsInvalid()
     double value = 77;
     QVERIFY(!m_edit->GetValue(value));
     QCOMPARE(value, -10.0);
-    QCOMPARE(m_app->m_frame.m_status, QStringLiteral("Input the value of 50.00 from -10.00."));
+    QCOMPARE(Status(), QStringLiteral("Input the value of 50.00 from -10.00."));
 }
 
 void FloatEditTest::PastedTextIsCheckedByGetValue()
@@ -247,7 +221,7 @@ void FloatEditTest::ComboTypesAndChooses()
     double value = 0;
     QVERIFY(!combo.GetValue(value));
     QCOMPARE(value, 5.0);
-    QCOMPARE(m_app->m_frame.m_status, QStringLiteral("Input the value of 5.0 from 0.1 to Hazard."));
+    QCOMPARE(Status(), QStringLiteral("Input the value of 5.0 from 0.1 to Hazard."));
     combo.setCurrentIndex(1);
     QVERIFY(combo.GetValue(value));
     QCOMPARE(value, 2.5);

@@ -1,8 +1,6 @@
 #include "controls/IntEdit.h"
+#include "controls/EditForm.h"
 #include "controls/IntComboEdit.h"
-#include "controls/Pixels.h"
-#include "resources/Translation.h"
-#include "support/window/TestApp.h"
 
 #include <QClipboard>
 #include <QInputMethodEvent>
@@ -12,7 +10,7 @@ using namespace skeldon;
 using namespace skeldon::test;
 
 /// The box for whole numbers under real keys.
-class IntEditTest : public QObject
+class IntEditTest : public QObject, private CEditForm<CIntEdit>
 {
     Q_OBJECT
 
@@ -32,50 +30,25 @@ private slots:
     void PastedTextIsCheckedByGetValue();
     void NarrowerRangeClampsTextThatIsTooLong();
     void ComboTypesAndChooses();
-
-private:
-    void StartIn(const QString& language);
-
-    std::unique_ptr<CTestApp> m_app;
-    std::unique_ptr<QWidget> m_form;
-    CIntEdit* m_edit = nullptr;
-    QLineEdit* m_other = nullptr;
 };
-
-void IntEditTest::StartIn(const QString& language)
-{
-    m_form.reset();
-    m_app.reset();
-    m_app = std::make_unique<CTestApp>(language);
-    QVERIFY(InstallTranslation(m_app->m_app->IsJapanese()));
-    m_form = std::make_unique<QWidget>();
-    m_form->resize(300, 100);
-    m_edit = new CIntEdit(m_form.get());
-    m_other = new QLineEdit(m_form.get());
-    m_other->move(0, 50);
-    m_edit->SetRange(1, 999);
-    QVERIFY(ShowActive(*m_form));
-    m_edit->setFocus();
-}
 
 void IntEditTest::init()
 {
     StartIn(QStringLiteral("English"));
+    m_edit->SetRange(1, 999);
 }
 
 void IntEditTest::cleanup()
 {
-    m_form.reset();
-    m_app.reset();
-    InstallTranslation(false);
+    Close();
 }
 
 void IntEditTest::OnlyDigitsCanBeTyped()
 {
     QTest::keyClicks(m_edit, QStringLiteral("a1-.2 e3,"));
     QCOMPARE(m_edit->text(), QStringLiteral("123"));
-    QCOMPARE(m_app->m_prompts->m_beeps, 0); // swallowed without a word
-    QVERIFY(m_app->m_frame.m_status.isEmpty());
+    QCOMPARE(Beeps(), 0); // swallowed without a word
+    QVERIFY(Status().isEmpty());
 }
 
 void IntEditTest::EditingKeysWork()
@@ -133,14 +106,12 @@ void IntEditTest::GetValueGivesNumberInRange()
     std::uint32_t value = 0;
     QVERIFY(m_edit->GetValue(value));
     QCOMPARE(value, 42U);
-    QCOMPARE(m_app->m_prompts->m_beeps, 0);
+    QCOMPARE(Beeps(), 0);
 }
 
 void IntEditTest::InvalidTextIsReported_data()
 {
-    QTest::addColumn<QString>("language");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("message");
+    AddMessageColumns();
 
     // English takes the upper bound first, Japanese the lower.
     QTest::newRow("English") << QStringLiteral("English") << QString()
@@ -169,8 +140,8 @@ void IntEditTest::InvalidTextIsReported()
     std::uint32_t value = 0;
     QVERIFY(!m_edit->GetValue(value));
     QCOMPARE(value, 60U);
-    QCOMPARE(m_app->m_frame.m_status, message);
-    QCOMPARE(m_app->m_prompts->m_beeps, 1);
+    QCOMPARE(Status(), message);
+    QCOMPARE(Beeps(), 1);
 }
 
 void IntEditTest::InvalidTextKeepsFocusAndSelection()
@@ -191,7 +162,7 @@ void IntEditTest::EmptyTextReportsRange()
     std::uint32_t value = 77;
     QVERIFY(!m_edit->GetValue(value));
     QCOMPARE(value, 1U);
-    QCOMPARE(m_app->m_frame.m_status, QStringLiteral("Input the value of 999 from 1"));
+    QCOMPARE(Status(), QStringLiteral("Input the value of 999 from 1"));
 }
 
 void IntEditTest::PastedTextIsCheckedByGetValue()
@@ -202,7 +173,7 @@ void IntEditTest::PastedTextIsCheckedByGetValue()
     std::uint32_t value = 77;
     QVERIFY(!m_edit->GetValue(value));
     QCOMPARE(value, 1U);
-    QCOMPARE(m_app->m_prompts->m_beeps, 1);
+    QCOMPARE(Beeps(), 1);
 }
 
 void IntEditTest::NarrowerRangeClampsTextThatIsTooLong()
@@ -230,8 +201,7 @@ void IntEditTest::ComboTypesAndChooses()
     QVERIFY(!combo.GetValue(value));
     QCOMPARE(value, 5U);
     QVERIFY(combo.m_edit->hasFocus());
-    QCOMPARE(m_app->m_frame.m_status,
-             QStringLiteral("Input the value of 30 from 5 to Start option"));
+    QCOMPARE(Status(), QStringLiteral("Input the value of 30 from 5 to Start option"));
     QTest::keyClick(combo.m_edit, Qt::Key_Return);
     QCOMPARE(combo.count(), 2); // what is typed does not go into the list
     combo.setCurrentIndex(1);

@@ -8,8 +8,10 @@
 #include "controls/SkinButton.h"
 #include "dataview/DisplayViewBusy.h"
 #include "dataview/MeasuredList.h"
+#include "dataview/ListSplitter.h"
 #include "dataview/PrintJob.h"
 #include "resources/StringTable.h"
+#include "dataview/SummaryStrip.h"
 
 #include <QFileInfo>
 
@@ -21,7 +23,9 @@ CDisplayView::CDisplayView(QWidget* parent)
     , m_connection(new CConnectionIcon(this))
     , m_list(new CMeasuredList(this))
     , m_chart(new CChartWnd(this))
+    , m_splitter(new CListSplitter(this))
 {
+    , m_summary(new CSummaryStrip(this))
     setFocusPolicy(Qt::ClickFocus);
     setMouseTracking(true);
     MakeButtons();
@@ -41,6 +45,7 @@ CDisplayView::CDisplayView(QWidget* parent)
     connect(m_chart, &CChartWnd::CommandChosen, this, &CDisplayView::OnCommand);
 }
 
+    connect(m_splitter, &CListSplitter::Moved, this, &CDisplayView::MoveSplitter);
 CDisplayView::~CDisplayView() = default;
 
 void CDisplayView::OnInitialUpdate()
@@ -142,7 +147,7 @@ void CDisplayView::OnUpdate(DocumentHint hint, int argument)
         break;
     case DocumentHint::Connection:
         m_connection->SetConnected(argument != 0);
-        update(Layout().Strip());
+        m_summary->update();
         RefreshControls();
         break;
     case DocumentHint::Closing:

@@ -14,11 +14,13 @@ namespace skeldon {
 
 class CChartWnd;
 class CConnectionIcon;
+class CListSplitter;
 class CMeasuredList;
 class CPrinters;
 class CPrintJob;
 class CProgressWindow;
 class CSkinButton;
+class CSummaryStrip;
 struct ButtonForm;
 enum class DispUnit;
 enum class MeasureGraphCode;
@@ -55,7 +57,7 @@ public:
     [[nodiscard]] CMeasureData& Data() { return m_data; }
     /// What the window's title shows: empty, a path, or the word for unsaved data.
     [[nodiscard]] QString DataPath() const { return m_strDataPath; }
-    [[nodiscard]] QString Summary() const { return m_strSummary; }
+    [[nodiscard]] QString Summary() const;
     [[nodiscard]] CMeasuredList& List() { return *m_list; }
     [[nodiscard]] CChartWnd& Chart() { return *m_chart; }
     [[nodiscard]] CSkinButton& Button(DataViewButton button) const;
@@ -85,6 +87,7 @@ private:
     void MakeButtons();
     void SetUpButtons();
     void LayOut();
+    void MoveSplitter(int border);
     [[nodiscard]] CDataViewLayout Layout() const;
     void ReadSettings();
     void ReadChartSettings();
@@ -92,7 +95,6 @@ private:
     void ReadGeneralSettings();
     void ShowSummary(const ConditionSummary& summary);
     void PaintBands(QPainter& painter) const;
-    void PaintStrip(QPainter& painter) const;
     void ShowPointer(bool isOnBar);
 
     // Commands.
@@ -156,11 +158,12 @@ private:
     PrintSettings m_printSettings;
     std::unique_ptr<CPrinters> m_printers; ///< none before the first print
     std::unique_ptr<CPrintJob> m_printJob; ///< likewise
-    QString m_strSummary;
     std::array<CSkinButton*, static_cast<std::size_t>(DataViewButton::Count)> m_buttons{};
     CConnectionIcon* m_connection;
     CMeasuredList* m_list;
+    CListSplitter* m_splitter;
     CChartWnd* m_chart;
+    CSummaryStrip* m_summary;
 };
 
 } // namespace skeldon

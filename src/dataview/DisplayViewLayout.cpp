@@ -1,7 +1,6 @@
 // How the data view stands in its window.
 #include "dataview/DisplayView.h"
 
-#include "app/DataText.h"
 #include "app/SkeldonApp.h"
 #include "chart/view/ChartSettings.h"
 #include "chart/view/ChartWnd.h"
@@ -10,19 +9,21 @@
 #include "controls/PictureCursor.h"
 #include "controls/SkinButton.h"
 #include "dataview/ButtonForms.h"
+#include "dataview/ListSplitter.h"
 #include "dataview/MeasuredList.h"
+#include "dataview/SummaryStrip.h"
 
 #include <QMouseEvent>
 #include <QPainter>
 
 #include <algorithm>
+#include <limits>
 
 namespace skeldon {
 
 namespace {
 
 constexpr ColourRef Grey = 0x808080;
-constexpr int SummaryLetterSize = 11;
 constexpr const char* ListBorderKey = "ListBorder";
 
 QString KeyOf(const char* key)
@@ -144,6 +145,10 @@ void CDisplayView::LayOut()
         m_listBorder = layout.ClampListBorder(m_listBorder);
     m_list->setGeometry(layout.List(m_listBorder));
     m_chart->setGeometry(layout.Chart(m_listBorder));
+    m_splitter->setGeometry(layout.Splitter(m_listBorder));
+    m_splitter->SetBorder(m_listBorder, layout.ClampListBorder(0),
+                          layout.ClampListBorder(std::numeric_limits<int>::max()));
+    m_summary->setGeometry(layout.Strip());
     m_list->show();
     m_chart->show();
     for (const ButtonForm& form : ButtonForms()) {
@@ -156,16 +161,18 @@ void CDisplayView::LayOut()
 
 void CDisplayView::ShowSummary(const ConditionSummary& summary)
 {
-    m_strSummary = SummaryText(summary);
-    setAccessibleDescription(m_strSummary);
-    repaint(Layout().Strip());
+    m_summary->SetText(SummaryText(summary));
+}
+
+QString CDisplayView::Summary() const
+{
+    return m_summary->Shown();
 }
 
 void CDisplayView::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
     PaintBands(painter);
-    PaintStrip(painter);
 }
 
 void CDisplayView::PaintBands(QPainter& painter) const
@@ -185,18 +192,6 @@ void CDisplayView::PaintBands(QPainter& painter) const
     painter.fillRect(width - 1, 0, 1, height, grey);
 }
 
-void CDisplayView::PaintStrip(QPainter& painter) const
-{
-    const QRect strip = Layout().Strip();
-    painter.fillRect(strip, ToColour(App().m_viewBaseColour));
-    QFont summary = font();
-    summary.setPixelSize(SummaryLetterSize);
-    painter.setFont(summary);
-    painter.setPen(Qt::black);
-    painter.drawText(strip, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
-                     PrintableText(m_strSummary));
-}
-
 void CDisplayView::mousePressEvent(QMouseEvent* event)
 {
     const bool isOnBar = Layout().Splitter(m_listBorder).contains(event->position().toPoint());
@@ -214,7 +209,12 @@ void CDisplayView::mouseMoveEvent(QMouseEvent* event)
         return;
     }
     // The sign makes the bar jump by as much as it was grabbed below its top.
-    m_listBorder = Layout().ClampListBorder(point.y() - m_nDragOffset);
+    MoveSplitter(point.y() - m_nDragOffset);
+}
+
+void CDisplayView::MoveSplitter(int border)
+{
+    m_listBorder = Layout().ClampListBorder(border);
     LayOut();
 }
 

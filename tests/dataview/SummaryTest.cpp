@@ -1,7 +1,9 @@
 #include "ViewApp.h"
 
 #include "dataview/ConditionSummary.h"
+#include "dataview/SummaryStrip.h"
 
+#include <QAccessible>
 #include <QPainter>
 #include <QTest>
 
@@ -156,7 +158,20 @@ private slots:
         QCOMPARE(app.View().Summary(), QString());
         app.OpenLines(4);
         QCOMPARE(app.View().Summary(), SummaryText(SummaryOf(MeasuredLines(4))));
-        QCOMPARE(app.View().accessibleDescription(), app.View().Summary());
+    }
+
+    void ScreenReadersFindTheSummary()
+    {
+        CViewApp app;
+        app.Show();
+        app.OpenLines(4);
+        const auto* const strip = app.View().findChild<CSummaryStrip*>();
+        QVERIFY(strip != nullptr && strip->isVisible());
+        QAccessibleInterface* const face =
+            QAccessible::queryAccessibleInterface(app.View().findChild<CSummaryStrip*>());
+        QCOMPARE(face->role(), QAccessible::StaticText);
+        QCOMPARE(face->text(QAccessible::Name), QStringLiteral("Measuring conditions"));
+        QVERIFY(face->text(QAccessible::Value).startsWith(QStringLiteral("# of Records:4")));
     }
 
     void FailedReadBlanksTheSummary()

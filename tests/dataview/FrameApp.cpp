@@ -2,7 +2,6 @@
 
 #include "files/DataFile.h"
 #include "recorder/FixedPortFinder.h"
-#include "recorder/RecorderPort.h"
 #include "resources/Translation.h"
 
 #include <QApplication>
@@ -12,8 +11,6 @@
 #include <QTest>
 
 #include <fstream>
-#include <sys/mman.h>
-#include <unistd.h>
 #include <utility>
 
 namespace skeldon::test {
@@ -22,19 +19,9 @@ CFrameApp::CFrameApp(const QString& language, const QString& settings)
     : m_settingsFile(settings.isEmpty() ? m_folder.filePath(QStringLiteral("settings.ini"))
                                         : settings)
 {
-    // Lock files of programs of this user that may be running are none of a test's.
-    qputenv("XDG_RUNTIME_DIR", m_folder.path().toUtf8());
-    auto prompts = std::make_unique<CScriptedPrompts>();
-    m_prompts = prompts.get();
-    AppServices services;
-    services.settings = std::make_unique<CSettings>(m_settingsFile);
-    services.prompts = std::move(prompts);
+    AppServices services = TestServices(m_settingsFile, language, m_clock);
+    m_prompts = static_cast<CScriptedPrompts*>(services.prompts.get());
     services.finder = std::make_unique<CFixedPortFinder>(Port().toStdString());
-    services.opener = SystemPortOpener();
-    services.clock = &m_clock;
-    services.language = language;
-    services.sharedBlock = SharedName();
-    services.sharedMutex = SharedName();
     services.makeFrame = [this]() -> CFrame* {
         InstallTranslation(App().IsJapanese());
         m_frame = std::make_unique<CMainFrame>();
@@ -57,14 +44,8 @@ CFrameApp::CFrameApp(const QString& language, const QString& settings)
 
 CFrameApp::~CFrameApp()
 {
-    // A conversation with a silent recorder comes to its end.
-    while (m_app->Conversation().IsUnderWay()) {
-        m_clock.MoveOn(CRecorderTransport::TimeoutMs);
-        QTest::qWait(1);
-    }
     End();
     m_app.reset();
-    shm_unlink(SharedName().c_str());
     InstallTranslation(false);
 }
 
@@ -121,11 +102,6 @@ bool CFrameApp::Connect(bool connected)
         m_frame->Poll().Tick();
         return m_frame->IsConnected() == connected;
     });
-}
-
-std::string CFrameApp::SharedName()
-{
-    return "skeldon frame test " + std::to_string(getpid());
 }
 
 namespace {

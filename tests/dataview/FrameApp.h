@@ -10,25 +10,9 @@
 
 #include <QAction>
 
-#include <atomic>
 #include <memory>
 
 namespace skeldon::test {
-
-/// The machine's clock, which a test may move on: what waits for the end of a silence need not
-/// wait in earnest.
-class CMovedClock final : public CClock
-{
-public:
-    [[nodiscard]] std::uint32_t TickMs() override { return m_system.TickMs() + m_moved; }
-    void SleepMs(std::uint32_t milliseconds) override { m_system.SleepMs(milliseconds); }
-    [[nodiscard]] CalendarSeconds Now() override { return m_system.Now(); }
-    void MoveOn(std::uint32_t milliseconds) { m_moved += milliseconds; }
-
-private:
-    CSystemClock m_system;
-    std::atomic<std::uint32_t> m_moved = 0;
-};
 
 /// The whole program in one process, as `main` puts it together: settings, lock files and cable in
 /// a folder of its own, scripted prompts.
@@ -61,8 +45,6 @@ public:
     [[nodiscard]] CSettings& Settings() { return m_app->Settings(); }
     [[nodiscard]] QString SettingsFile() const { return m_settingsFile; }
     [[nodiscard]] QString Port() const { return m_folder.filePath(QStringLiteral("korva")); }
-    /// Names of the shared block and its mutex, which no other process uses.
-    [[nodiscard]] static std::string SharedName();
     /// Loads `count` lines, one a second, as if they had been read and not been saved.
     void TakeLines(std::size_t count);
     /// A data file with so many lines in the folder.

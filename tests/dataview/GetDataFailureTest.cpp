@@ -2,6 +2,7 @@
 #include "StripWatch.h"
 
 #include "data/RecordFlags.h"
+#include "support/window/PaintCounter.h"
 
 #include <QTest>
 
@@ -23,19 +24,6 @@ void GetData(CFrameApp& app)
 {
     app.Press(Qt::Key_D, Qt::ControlModifier);
 }
-
-class CPaintCounter : public QObject
-{
-public:
-    explicit CPaintCounter(QWidget& widget) { widget.installEventFilter(this); }
-    bool eventFilter(QObject* /*watched*/, QEvent* event) override
-    {
-        if (event->type() == QEvent::Paint)
-            ++m_count;
-        return false;
-    }
-    int m_count = 0;
-};
 
 } // namespace
 

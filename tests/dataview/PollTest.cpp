@@ -4,7 +4,9 @@
 #include "app/platform/SharedBlock.h"
 #include "controls/ConnectionIcon.h"
 #include "recorder/RecorderStatus.h"
+#include "support/window/PaintCounter.h"
 
+#include <QElapsedTimer>
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTest>
@@ -22,20 +24,6 @@ std::vector<std::string> Deaf(std::vector<std::string> options = {})
     options.insert(options.end(), {"--fault", std::string("silence=") + Status});
     return options;
 }
-
-/// Counts the paint events of a widget.
-class CPaintCounter : public QObject
-{
-public:
-    explicit CPaintCounter(QWidget& widget) { widget.installEventFilter(this); }
-    bool eventFilter(QObject* /*watched*/, QEvent* event) override
-    {
-        if (event->type() == QEvent::Paint)
-            ++m_count;
-        return false;
-    }
-    int m_count = 0;
-};
 
 } // namespace
 
@@ -206,6 +194,22 @@ private slots:
         QVERIFY(!app.Frame().IsConnected());
     }
 
+    void EndDoesNotWaitForARecorderThatDoesNotAnswer()
+    {
+        CFrameApp app;
+        QVERIFY(app.Start());
+        app.PlugIn(Deaf());
+        app.Frame().Poll().Tick();
+        app.Frame().close();
+        QTRY_VERIFY(!app.Frame().isVisible());
+        QVERIFY(app.m_app->Conversation().IsUnderWay());
+        QElapsedTimer ending;
+        ending.start();
+        app.End();
+        app.m_app.reset();
+        QVERIFY(ending.elapsed() < CRecorderTransport::TimeoutMs / 2);
+    }
+
     void RecorderThatDoesNotAnswerIsAskedAgain()
     {
         CFrameApp app;
@@ -289,7 +293,7 @@ private slots:
         app.PlugIn({});
         QSignalSpy cable(&app.Frame().Poll(), &CRecorderPoll::CableSeen);
         {
-            CSharedBlock other(CFrameApp::SharedName());
+            CSharedBlock other(SharedName());
             constexpr int Window = 0;
             constexpr int Hold = 2;
             QVERIFY(other.GetWords()[Window] != 0);
@@ -308,7 +312,7 @@ private slots:
         app.PlugIn({});
         QSignalSpy cable(&app.Frame().Poll(), &CRecorderPoll::CableSeen);
         CLockFile other;
-        QVERIFY(other.Open(CFrameApp::SharedName()));
+        QVERIFY(other.Open(SharedName()));
         QCOMPARE(other.TryLock(), CLockFile::Outcome::Taken);
         app.Frame().Poll().Tick();
         QCOMPARE(cable.size(), 0);

@@ -2,6 +2,7 @@
 #include "StreamRecorder.h"
 
 #include "controls/CableDialog.h"
+#include "support/window/PaintCounter.h"
 
 #include <QApplication>
 #include <QLineEdit>
@@ -37,20 +38,6 @@ void Type(COnlineApp& app, const QString& command, const std::function<void()>& 
     watch.start(5);
     QTest::keyClick(app.Monitor().windowHandle(), Qt::Key_Return);
 }
-
-/// Counts the paint events of a widget.
-class CPaintCounter : public QObject
-{
-public:
-    explicit CPaintCounter(QWidget& widget) { widget.installEventFilter(this); }
-    bool eventFilter(QObject* /*watched*/, QEvent* event) override
-    {
-        if (event->type() == QEvent::Paint)
-            ++m_count;
-        return false;
-    }
-    int m_count = 0;
-};
 
 } // namespace
 

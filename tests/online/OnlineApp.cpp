@@ -1,40 +1,21 @@
 #include "OnlineApp.h"
 
 #include "online/MonitorList.h"
-#include "recorder/RecorderPort.h"
 #include "resources/Translation.h"
 
 #include <QFile>
 #include <QTest>
 
-#include <utility>
-
 namespace skeldon::test {
 
 COnlineApp::COnlineApp(const QString& language, const QString& settings)
-    : m_settingsFile(settings.isEmpty() ? m_folder.filePath(QStringLiteral("settings.ini"))
-                                        : settings)
+    : CTestApp(language, settings)
 {
-    auto prompts = std::make_unique<CScriptedPrompts>();
-    m_prompts = prompts.get();
-    AppServices services;
-    services.settings = std::make_unique<CSettings>(m_settingsFile);
-    services.prompts = std::move(prompts);
-    services.finder = std::make_unique<CTestCable>(m_port);
-    services.opener = SystemPortOpener();
-    services.clock = &m_clock;
-    services.language = language;
-    m_app = std::make_unique<CSkeldonApp>(std::move(services));
-    m_app->m_language = language;
-    m_app->m_viewBaseColour = 0xD8E9EC;
-    m_app->SetFrame(&m_frame);
     InstallTranslation(App().IsJapanese());
 }
 
 COnlineApp::~COnlineApp()
 {
-    // A conversation with a silent recorder is at its end.
-    m_clock.MoveOn(CRecorderTransport::TimeoutMs);
     m_app.reset();
     InstallTranslation(false);
 }

@@ -4,31 +4,14 @@
 #include "support/Process.h"
 #include "support/window/TestApp.h"
 
-#include <QTemporaryDir>
-
-#include <atomic>
 #include <memory>
 #include <string>
 #include <vector>
 
 namespace skeldon::test {
 
-/// The machine's clock, which a test may move on, so that nobody waits for the end of a silence.
-class CMovedClock final : public CClock
-{
-public:
-    [[nodiscard]] std::uint32_t TickMs() override { return m_system.TickMs() + m_moved; }
-    void SleepMs(std::uint32_t milliseconds) override { m_system.SleepMs(milliseconds); }
-    [[nodiscard]] CalendarSeconds Now() override { return m_system.Now(); }
-    void MoveOn(std::uint32_t milliseconds) { m_moved += milliseconds; }
-
-private:
-    CSystemClock m_system;
-    std::atomic<std::uint32_t> m_moved = 0;
-};
-
 /// An application object with a monitor window on its link, and a recorder on its cable.
-class COnlineApp
+class COnlineApp : public CTestApp
 {
 public:
     /// `settings` is used again where a test starts the program a second time.
@@ -58,14 +41,6 @@ public:
     [[nodiscard]] CRecorderLink& Link() { return m_app->m_link; }
     [[nodiscard]] CSettings& Settings() { return m_app->Settings(); }
     void Set(const char* key, int value);
-
-    QTemporaryDir m_folder;
-    QString m_settingsFile;
-    std::string m_port; ///< empty without a cable
-    CMovedClock m_clock;
-    CTestFrame m_frame;
-    CScriptedPrompts* m_prompts = nullptr;
-    std::unique_ptr<CSkeldonApp> m_app;
 
 private:
     [[nodiscard]] std::string TraceFile() const;

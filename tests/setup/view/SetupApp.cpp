@@ -45,16 +45,11 @@ bool CSetupFrame::IsConnected() const
 
 CSetupApp::CSetupApp(const QString& language)
 {
-    auto prompts = std::make_unique<CScriptedPrompts>();
-    m_prompts = prompts.get();
-    AppServices services;
-    services.settings =
-        std::make_unique<CSettings>(QString::fromStdString(m_wire.Path("settings.ini").string()));
-    services.prompts = std::move(prompts);
+    const std::string settings = m_wire.Path("settings.ini").string();
+    AppServices services = TestServices(QString::fromStdString(settings), language, m_clock);
+    m_prompts = static_cast<CScriptedPrompts*>(services.prompts.get());
     services.finder = std::make_unique<CTestCable>(m_port);
     services.opener = QuickPortOpener(m_change);
-    services.clock = &m_clock;
-    services.language = language;
     m_app = std::make_unique<CSkeldonApp>(std::move(services));
     m_app->m_language = language;
     m_app->m_viewBaseColour = 0xD8E9EC;

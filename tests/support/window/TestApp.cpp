@@ -1,7 +1,6 @@
 #include "support/window/TestApp.h"
 
 #include "app/Clipboard.h"
-#include "recorder/RecorderPort.h"
 
 #include <utility>
 
@@ -105,15 +104,9 @@ CTestApp::CTestApp(const QString& language, const QString& settings)
     : m_settingsFile(settings.isEmpty() ? m_folder.filePath(QStringLiteral("settings.ini"))
                                         : settings)
 {
-    auto prompts = std::make_unique<CScriptedPrompts>();
-    m_prompts = prompts.get();
-    AppServices services;
-    services.settings = std::make_unique<CSettings>(m_settingsFile);
-    services.prompts = std::move(prompts);
+    AppServices services = TestServices(m_settingsFile, language, m_clock);
+    m_prompts = static_cast<CScriptedPrompts*>(services.prompts.get());
     services.finder = std::make_unique<CTestCable>(m_port);
-    services.opener = SystemPortOpener();
-    services.clock = &m_clock;
-    services.language = language;
     m_app = std::make_unique<CSkeldonApp>(std::move(services));
     m_app->m_language = language;
     m_app->m_viewBaseColour = 0xD8E9EC;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/SkeldonApp.h"
+#include "support/window/TestServices.h"
 
 #include <QDialog>
 #include <QSet>
@@ -127,7 +127,7 @@ public:
     std::string m_port;
     QTemporaryDir m_folder;
     QString m_settingsFile;
-    CSystemClock m_clock;
+    CMovedClock m_clock;
     CTestFrame m_frame;
     CScriptedPrompts* m_prompts = nullptr;
     std::unique_ptr<CSkeldonApp> m_app;

@@ -2,6 +2,10 @@
 
 #include "app/Colour.h"
 
+#include <QPalette>
+
+class QFrame;
+
 namespace skeldon {
 
 /// A colour laid over the pictures of a control.
@@ -14,5 +18,10 @@ struct Tint
 /// What is laid over buttons and read-outs on forms of the colour `viewBase`: a light veil on the
 /// light face, nothing on the dark one.
 [[nodiscard]] Tint TintOf(ColourRef viewBase);
+/// The colours of a form of the colour `viewBase`, the same on a dark desktop.
+[[nodiscard]] QPalette FormPalette(ColourRef viewBase);
+/// Sinks a list into its form. The border is wide enough to be seen at any pixel ratio, where the
+/// list's inside may begin in the middle of a device pixel and cover half of a line.
+void SinkIntoForm(QFrame& list);
 
 } // namespace skeldon

@@ -6,12 +6,13 @@
 #include "chart/view/ChartWnd.h"
 #include "controls/ConnectionIcon.h"
 #include "controls/SkinButton.h"
+#include "controls/Theme.h"
 #include "dataview/DisplayViewBusy.h"
-#include "dataview/MeasuredList.h"
 #include "dataview/ListSplitter.h"
+#include "dataview/MeasuredList.h"
 #include "dataview/PrintJob.h"
-#include "resources/StringTable.h"
 #include "dataview/SummaryStrip.h"
+#include "resources/StringTable.h"
 
 #include <QFileInfo>
 
@@ -22,12 +23,13 @@ CDisplayView::CDisplayView(QWidget* parent)
     , m_strUnsaved(Text(StringId::Unsaved))
     , m_connection(new CConnectionIcon(this))
     , m_list(new CMeasuredList(this))
-    , m_chart(new CChartWnd(this))
     , m_splitter(new CListSplitter(this))
-{
+    , m_chart(new CChartWnd(this))
     , m_summary(new CSummaryStrip(this))
+{
     setFocusPolicy(Qt::ClickFocus);
     setMouseTracking(true);
+    setPalette(FormPalette(App().m_viewBaseColour));
     MakeButtons();
     m_list->hide();
     m_chart->hide();
@@ -43,9 +45,9 @@ CDisplayView::CDisplayView(QWidget* parent)
     connect(m_chart, &CChartWnd::MeasureGraph, this, &CDisplayView::OnMeasureGraph,
             Qt::QueuedConnection);
     connect(m_chart, &CChartWnd::CommandChosen, this, &CDisplayView::OnCommand);
+    connect(m_splitter, &CListSplitter::Moved, this, &CDisplayView::MoveSplitter);
 }
 
-    connect(m_splitter, &CListSplitter::Moved, this, &CDisplayView::MoveSplitter);
 CDisplayView::~CDisplayView() = default;
 
 void CDisplayView::OnInitialUpdate()

@@ -7,6 +7,7 @@
 #include "chart/view/PrintSettingsStore.h"
 #include "controls/ConnectionIcon.h"
 #include "controls/PictureCursor.h"
+#include "controls/PixelLine.h"
 #include "controls/SkinButton.h"
 #include "dataview/ButtonForms.h"
 #include "dataview/ListSplitter.h"
@@ -185,11 +186,11 @@ void CDisplayView::PaintBands(QPainter& painter) const
     const QColor grey = ToColour(Grey);
     painter.fillRect(rect(), ToColour(App().m_viewBaseColour));
     for (const int y : {0, TopBand + 1, height - BottomBand + 1})
-        painter.fillRect(0, y, width, 1, Qt::white);
-    painter.fillRect(0, 0, 1, height, Qt::white);
+        FillLine(painter, {0, y, width, 1}, Qt::white);
+    FillLine(painter, {0, 0, 1, height}, Qt::white);
     for (const int y : {TopBand, height - BottomBand, height - StripBand})
-        painter.fillRect(0, y, width, 1, grey);
-    painter.fillRect(width - 1, 0, 1, height, grey);
+        FillLine(painter, {0, y, width, 1}, grey);
+    FillLine(painter, {width - 1, 0, 1, height}, grey);
 }
 
 void CDisplayView::mousePressEvent(QMouseEvent* event)

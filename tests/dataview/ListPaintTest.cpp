@@ -294,6 +294,20 @@ private slots:
         QApplication::setPalette(palette);
         QCOMPARE(rows, usual);
     }
+
+    void DarkDesktopKeepsTitlesAndScrollBars()
+    {
+        const QPalette palette = QApplication::palette();
+        QImage lists[2];
+        for (const bool isDark : {false, true}) {
+            QApplication::setPalette(isDark ? QPalette(QColor(0x20, 0x20, 0x20)) : palette);
+            CViewApp app;
+            ShowLines(app, 30);
+            lists[isDark ? 1 : 0] = app.List().grab().toImage();
+        }
+        QApplication::setPalette(palette);
+        QCOMPARE(lists[1], lists[0]);
+    }
 };
 
 QTEST_MAIN(ListPaintTest)

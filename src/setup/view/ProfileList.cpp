@@ -1,6 +1,7 @@
 #include "setup/view/ProfileList.h"
 
 #include "app/DataText.h"
+#include "controls/Theme.h"
 #include "setup/view/ProfileLines.h"
 
 #include <QMouseEvent>
@@ -11,6 +12,7 @@ namespace skeldon {
 CProfileList::CProfileList(QWidget* parent)
     : QListWidget(parent)
 {
+    SinkIntoForm(*this);
     setUniformItemSizes(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     connect(this, &QListWidget::itemSelectionChanged, this, [this] {

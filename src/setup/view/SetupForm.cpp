@@ -21,7 +21,6 @@ namespace skeldon {
 
 namespace {
 
-constexpr ColourRef SelectionColour = 0xB0702C;
 constexpr int LightEdge = 130; // percent of the face
 constexpr int DarkEdge = 150;  // the face by so many percent
 
@@ -82,7 +81,7 @@ CSetupForm::CSetupForm(QWidget* parent)
     QFont small = font();
     small.setPixelSize(setup_layout::FontHeight);
     setFont(small);
-    UseOwnColours();
+    setPalette(FormPalette(App().m_viewBaseColour));
     MakeLabelAndList();
     MakePanels();
     m_picture->setGeometry(setup_layout::PicturePlace);
@@ -107,21 +106,6 @@ CLcdPanel& CSetupForm::Panel(SetupPanel panel) const
 CSpinButton& CSetupForm::Spin(SetupStep step) const
 {
     return *m_spins[static_cast<std::size_t>(step)];
-}
-
-/// The form looks the same on a dark desktop.
-void CSetupForm::UseOwnColours()
-{
-    const QColor face = ToColour(App().m_viewBaseColour);
-    QPalette own(face);
-    own.setColor(QPalette::Base, Qt::white);
-    own.setColor(QPalette::Text, Qt::black);
-    own.setColor(QPalette::WindowText, Qt::black);
-    own.setColor(QPalette::PlaceholderText, Qt::darkGray);
-    // The selected line is seen in a window that is not active, too.
-    own.setColor(QPalette::Highlight, ToColour(SelectionColour));
-    own.setColor(QPalette::HighlightedText, Qt::white);
-    setPalette(own);
 }
 
 void CSetupForm::MakeLabelAndList()

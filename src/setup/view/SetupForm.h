@@ -63,7 +63,6 @@ protected:
     void leaveEvent(QEvent* event) override;
 
 private:
-    void UseOwnColours();
     void MakeLabelAndList();
     void MakeButtons();
     void MakePanels();

@@ -6,35 +6,17 @@ namespace skeldon {
 
 namespace {
 
-std::array<double, SeriesCount> ValuesOf(const CMeasureRecord& line)
-{
-    return {Drawable(line.m_x),           Drawable(line.m_y),        Drawable(line.m_z),
-            Drawable(line.m_temperature), Drawable(line.m_humidity), Drawable(line.m_resultant)};
-}
-
-/// Least and greatest of one quantity; what is no number is passed over.
-struct Extremes
-{
-    double low = std::numeric_limits<double>::infinity();
-    double high = -std::numeric_limits<double>::infinity();
-
-    void Take(double value)
-    {
-        low = value < low ? value : low;
-        high = value > high ? value : high;
-    }
-};
+constexpr double Infinity = std::numeric_limits<double>::infinity();
 
 } // namespace
 
 CValueRange::CValueRange()
-{
-    m_low.fill(std::numeric_limits<double>::infinity());
-    m_high.fill(-std::numeric_limits<double>::infinity());
-}
+    : m_low(CSixValues::Filled(Infinity))
+    , m_high(CSixValues::Filled(-Infinity))
+{}
 
 CValueRange::CValueRange(const CMeasureRecord& line)
-    : m_low(ValuesOf(line))
+    : m_low(DrawableFields(line))
     , m_high(m_low)
 {}
 
@@ -43,48 +25,18 @@ CValueRange::CValueRange(std::span<const CMeasureRecord> lines)
 {
     // This is the one pass over a whole data set, so lines without a number are told by a sum, and
     // only theirs go the long way.
-    Extremes x;
-    Extremes y;
-    Extremes z;
-    Extremes temperature;
-    Extremes humidity;
-    Extremes resultant;
-    bool areNumbers = true;
+    CSixValues sum = CSixValues::Filled(0.0);
     for (const CMeasureRecord& line : lines) {
-        x.Take(line.m_x);
-        y.Take(line.m_y);
-        z.Take(line.m_z);
-        temperature.Take(line.m_temperature);
-        humidity.Take(line.m_humidity);
-        resultant.Take(line.m_resultant);
-        const double sum = line.m_x + line.m_y + line.m_z + line.m_temperature + line.m_humidity +
-                           line.m_resultant;
-        areNumbers = areNumbers && sum == sum;
+        const CSixValues values = FieldValues(line);
+        m_low.TakeLeast(values);
+        m_high.TakeGreatest(values);
+        sum.Add(values);
     }
-    if (areNumbers) {
-        m_low = {x.low, y.low, z.low, temperature.low, humidity.low, resultant.low};
-        m_high = {x.high, y.high, z.high, temperature.high, humidity.high, resultant.high};
+    if (sum.AreNumbers())
         return;
-    }
+    *this = CValueRange();
     for (const CMeasureRecord& line : lines)
-        Take(line);
-}
-
-void CValueRange::Take(const CMeasureRecord& line)
-{
-    const std::array<double, SeriesCount> values = ValuesOf(line);
-    for (std::size_t i = 0; i < SeriesCount; ++i) {
-        m_low[i] = values[i] < m_low[i] ? values[i] : m_low[i];
-        m_high[i] = values[i] > m_high[i] ? values[i] : m_high[i];
-    }
-}
-
-void CValueRange::Take(const CValueRange& other)
-{
-    for (std::size_t i = 0; i < SeriesCount; ++i) {
-        m_low[i] = other.m_low[i] < m_low[i] ? other.m_low[i] : m_low[i];
-        m_high[i] = other.m_high[i] > m_high[i] ? other.m_high[i] : m_high[i];
-    }
+        Take(CValueRange(line));
 }
 
 void CLineIndex::Build(std::span<const CMeasureRecord> lines)
@@ -124,8 +76,7 @@ void CLineIndex::BuildBlocks()
                 m_runStarts.push_back(line);
             previous = time;
         }
-        m_ranges[block] = CValueRange(
-            m_lines.subspan(static_cast<std::size_t>(first), static_cast<std::size_t>(lines)));
+        m_ranges[block] = CValueRange(LinesFrom(first, first + lines));
     }
 }
 
@@ -145,15 +96,21 @@ void CLineIndex::BuildLevels()
 
 CValueRange CLineIndex::Range(int first, int last) const
 {
-    CValueRange range;
-    int begin = first;
-    int end = last + 1;
-    while (begin < end && begin % BlockLines != 0)
-        range.Take(Line(begin++));
-    while (begin < end && end % BlockLines != 0)
-        range.Take(Line(--end));
-    begin /= BlockLines;
-    end /= BlockLines;
+    // The lines before the first whole block, those behind the last one, and what lies between.
+    const int end = last + 1;
+    const int firstWhole = (first + BlockLines - 1) / BlockLines;
+    const int endOfWhole = end / BlockLines;
+    if (firstWhole >= endOfWhole)
+        return CValueRange(LinesFrom(first, end));
+    CValueRange range(LinesFrom(first, firstWhole * BlockLines));
+    range.Take(CValueRange(LinesFrom(endOfWhole * BlockLines, end)));
+    TakeBlocks(range, firstWhole, endOfWhole);
+    return range;
+}
+
+/// Takes in the blocks from `begin` to `end` - 1, by the largest nodes there are.
+void CLineIndex::TakeBlocks(CValueRange& range, int begin, int end) const
+{
     for (std::size_t level = 0; begin < end; ++level) {
         const Level& nodes = m_levels[level];
         while (begin < end && begin % Fan != 0)
@@ -163,7 +120,6 @@ CValueRange CLineIndex::Range(int first, int last) const
         begin /= Fan;
         end /= Fan;
     }
-    return range;
 }
 
 int CLineIndex::RunEnd(int line) const

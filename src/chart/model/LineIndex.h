@@ -1,6 +1,6 @@
 #pragma once
 
-#include "chart/model/Series.h"
+#include "chart/model/FieldValues.h"
 #include "data/MeasureRecord.h"
 #include "data/RecordArray.h"
 
@@ -22,28 +22,27 @@ public:
     explicit CValueRange(const CMeasureRecord& line);
     explicit CValueRange(std::span<const CMeasureRecord> lines);
 
-    void Take(const CMeasureRecord& line);
-    void Take(const CValueRange& other);
+    void Take(const CValueRange& other)
+    {
+        m_low.TakeLeast(other.m_low);
+        m_high.TakeGreatest(other.m_high);
+    }
+    /// All of them.
+    [[nodiscard]] const CSixValues& Lows() const { return m_low; }
+    [[nodiscard]] const CSixValues& Highs() const { return m_high; }
     /// On the value axis.
     [[nodiscard]] double Low(Series series) const
     {
-        return m_low[Slot(series)] * Info(series).factor;
+        return m_low[FieldOf(series)] * Info(series).factor;
     }
     [[nodiscard]] double High(Series series) const
     {
-        return m_high[Slot(series)] * Info(series).factor;
+        return m_high[FieldOf(series)] * Info(series).factor;
     }
 
 private:
-    // In the order of the record's fields, so that a line is taken in as it lies in memory.
-    static constexpr std::size_t Slot(Series series)
-    {
-        constexpr std::array<std::size_t, SeriesCount> Slots{0, 1, 2, 5, 3, 4};
-        return Slots[Index(series)];
-    }
-
-    std::array<double, SeriesCount> m_low{};
-    std::array<double, SeriesCount> m_high{};
+    CSixValues m_low;
+    CSixValues m_high;
 };
 
 /// What is precomputed over the lines of a chart, so that a picture costs by its columns and not by
@@ -107,6 +106,13 @@ private:
         int lines = BlockLines;
     };
 
+    /// The lines from `begin` to `end` - 1, none where that is less.
+    [[nodiscard]] std::span<const CMeasureRecord> LinesFrom(int begin, int end) const
+    {
+        const auto first = static_cast<std::size_t>(begin);
+        return m_lines.subspan(first, static_cast<std::size_t>(std::max(end - begin, 0)));
+    }
+    void TakeBlocks(CValueRange& range, int begin, int end) const;
     void BuildBlocks();
     void BuildLevels();
     [[nodiscard]] const CValueRange& Node(const Level& level, int node) const

@@ -46,83 +46,129 @@ CLineWalk::CLineWalk(const CLineIndex& index, const WalkView& view)
     }
 }
 
+inline ChartStroke CLineWalk::StrokeOf(const LineEnds& ends, Series series, StrokeKind kind,
+                                       bool isDimmed) const
+{
+    const bool fits = FitsShort(ends.x1) && FitsShort(ends.x2);
+    const LineEnds moved = fits ? ends : InShortColumns(ends);
+    return {m_view.DeviceX(moved.x1),
+            m_view.DeviceY(moved.y1),
+            m_view.DeviceX(moved.x2),
+            m_view.DeviceY(moved.y2),
+            series,
+            kind,
+            isDimmed};
+}
+
 void CLineWalk::Walk(std::vector<ChartStroke>& strokes)
 {
     m_spans.fill({});
     m_runEnd = 0;
     const int last = std::min(m_view.lastLine, m_index.Count() - 1);
-    if (m_series.empty())
+    int line = std::max(m_view.firstLine, 0);
+    if (m_series.empty() || line >= last)
         return;
-    for (int line = std::max(m_view.firstLine, 0); line < last; ++line) {
-        const int end = ColumnEnd(line);
+    Place place = PlaceOf(line);
+    while (line < last) {
+        const int end = ColumnEnd(line, place.device);
         if (end >= last)
             break; // nothing leaves the last column
-        if (end > line)
+        if (end > line) {
             MergeColumn(line, end);
-        line = end;
-        Stretch(line, strokes);
+            place = PlaceOf(end);
+        }
+        const Place next = PlaceOf(end + 1);
+        Stretch(end, place, next, strokes);
+        line = end + 1;
+        place = next;
     }
 }
 
-int CLineWalk::ColumnEnd(int line)
+CLineWalk::Place CLineWalk::PlaceOf(int line) const
+{
+    const std::int64_t column = m_view.window.Column(m_index.Time(line));
+    return {column, WalkView::Device64(column, m_view.scaleX)};
+}
+
+int CLineWalk::ColumnEnd(int line, std::int64_t device)
 {
     if (line >= m_runEnd)
         m_runEnd = m_index.RunEnd(line);
-    const std::int64_t column = DeviceColumn(m_index.Time(line));
     // Lines beyond 16 bits are never of one column.
-    if (!FitsShort(column))
+    if (!FitsShort(device))
         return line;
     const int end = std::min(m_runEnd, m_view.lastLine + 1);
-    return m_index.FirstNot(line + 1, end, [&](std::int64_t time) {
-        return DeviceColumn(time) == column;
-    }) - 1;
+    if (line + 1 >= end || DeviceColumn(m_index.Time(line + 1)) != device)
+        return line;
+    const std::int64_t behind = TimeBehind(device);
+    return m_index.FirstNot(line + 2, end, [behind](std::int64_t time) { return time < behind; }) -
+           1;
+}
+
+/// The first millisecond whose device column is no longer `device`: guessed by the scale, then
+/// found exactly.
+std::int64_t CLineWalk::TimeBehind(std::int64_t device) const
+{
+    const CTimeWindow& window = m_view.window;
+    const double column = (static_cast<double>(device) + 0.5) / m_view.scaleX;
+    const std::int64_t guess =
+        window.m_paddedStart + Truncate64((column - window.m_plotLeft) / window.m_pixelsPerMs);
+    std::int64_t before = guess - 1;
+    std::int64_t behind = guess;
+    for (std::int64_t stride = 1; DeviceColumn(before) > device; stride *= 2) {
+        behind = before;
+        before -= stride;
+    }
+    for (std::int64_t stride = 1; DeviceColumn(behind) <= device; stride *= 2) {
+        before = behind;
+        behind += stride;
+    }
+    while (behind - before > 1) {
+        const std::int64_t middle = before + (behind - before) / 2;
+        (DeviceColumn(middle) <= device ? before : behind) = middle;
+    }
+    return behind;
 }
 
 void CLineWalk::MergeColumn(int first, int last)
 {
     const CValueRange range = m_index.Range(first, last);
+    const auto lows = m_view.Rows(range.Lows());
+    const auto highs = m_view.Rows(range.Highs());
     for (const Series series : m_series) {
         CChartColumnSpan& span = m_spans[Index(series)];
-        span.Take(m_view.Row(range.Low(series)));
-        span.Take(m_view.Row(range.High(series)));
+        span.Take(lows[FieldOf(series)]);
+        span.Take(highs[FieldOf(series)]);
     }
 }
 
-void CLineWalk::Stretch(int line, std::vector<ChartStroke>& strokes)
+void CLineWalk::Stretch(int line, const Place& from, const Place& to,
+                        std::vector<ChartStroke>& strokes)
 {
-    const CMeasureRecord& from = m_index.Line(line);
-    const CMeasureRecord& to = m_index.Line(line + 1);
-    const std::int64_t x1 = m_view.window.Column(from.TimeMs());
-    const std::int64_t x2 = m_view.window.Column(to.TimeMs());
-    const std::int64_t device1 = RoundPixel64(static_cast<double>(x1) * m_view.scaleX);
-    const std::int64_t device2 = RoundPixel64(static_cast<double>(x2) * m_view.scaleX);
-    const bool isOneColumn =
-        (FitsShort(device1) ? device1 : ShortMin) == (FitsShort(device2) ? device2 : ShortMax);
-    const bool isDimmed = from.HasFlag(DimmedFlags) || to.HasFlag(DimmedFlags);
+    const CMeasureRecord& first = m_index.Line(line);
+    const CMeasureRecord& second = m_index.Line(line + 1);
+    const auto firstRows = m_view.Rows(DrawableFields(first));
+    const auto secondRows = m_view.Rows(DrawableFields(second));
+    const bool isDimmed = first.HasFlag(DimmedFlags) || second.HasFlag(DimmedFlags);
+    const bool isOneColumn = (FitsShort(from.device) ? from.device : ShortMin) ==
+                             (FitsShort(to.device) ? to.device : ShortMax);
     for (const Series series : m_series) {
         CChartColumnSpan& span = m_spans[Index(series)];
-        const int y1 = m_view.Row(AxisValue(from, series));
-        const int y2 = m_view.Row(AxisValue(to, series));
+        const int y1 = firstRows[FieldOf(series)];
+        const int y2 = secondRows[FieldOf(series)];
         if (isOneColumn) {
             span.Take(y1);
             span.Take(y2);
             continue;
         }
         if (span.IsOpen()) {
-            Draw({x1, span.minY, x1, span.maxY}, series, StrokeKind::Column, isDimmed, strokes);
+            strokes.push_back(StrokeOf({from.column, span.minY, from.column, span.maxY}, series,
+                                       StrokeKind::Column, isDimmed));
             span = {};
         }
-        Draw({x1, y1, x2, y2}, series, StrokeKind::Stretch, isDimmed, strokes);
+        strokes.push_back(
+            StrokeOf({from.column, y1, to.column, y2}, series, StrokeKind::Stretch, isDimmed));
     }
-}
-
-void CLineWalk::Draw(const LineEnds& ends, Series series, StrokeKind kind, bool isDimmed,
-                     std::vector<ChartStroke>& strokes) const
-{
-    const bool fits = FitsShort(ends.x1) && FitsShort(ends.x2);
-    const LineEnds moved = fits ? ends : InShortColumns(ends);
-    strokes.push_back({m_view.DeviceX(moved.x1), m_view.DeviceY(moved.y1), m_view.DeviceX(moved.x2),
-                       m_view.DeviceY(moved.y2), series, kind, isDimmed});
 }
 
 } // namespace skeldon

@@ -5,6 +5,7 @@
 #include "chart/model/TimeWindow.h"
 #include "chart/model/ValueScale.h"
 
+#include <array>
 #include <cstdint>
 #include <vector>
 
@@ -32,8 +33,20 @@ struct WalkView
             return static_cast<int>(pixel < 0 ? pixel + 1 : pixel);
         return RoundPixel(static_cast<double>(pixel) * factor);
     }
+    [[nodiscard]] static std::int64_t Device64(std::int64_t pixel, double factor)
+    {
+        if (factor == 1.0 && pixel > -PixelLimit && pixel < PixelLimit)
+            return pixel < 0 ? pixel + 1 : pixel;
+        return RoundPixel64(static_cast<double>(pixel) * factor);
+    }
     /// The row of an axis value, less what is scrolled off.
     [[nodiscard]] int Row(double value) const { return scale.Row(value) - scale.m_scrollY; }
+    /// The same of all quantities of a line, of which none may be no number.
+    [[nodiscard]] std::array<int, SeriesCount> Rows(const CSixValues& fields) const
+    {
+        return fields.RowsBelow(scale.m_zeroY - scale.m_scrollY, FieldFactors(),
+                                scale.PixelsPerUnit(), PixelLimit);
+    }
 };
 
 enum class StrokeKind : std::uint8_t
@@ -102,15 +115,24 @@ public:
     void Walk(std::vector<ChartStroke>& strokes);
 
 private:
+    /// Where a line lies.
+    struct Place
+    {
+        std::int64_t column = 0; ///< content column
+        std::int64_t device = 0; ///< device column
+    };
+
+    [[nodiscard]] Place PlaceOf(int line) const;
     /// The last line of the device column that `line` lies in, as far as a search may go.
-    [[nodiscard]] int ColumnEnd(int line);
+    [[nodiscard]] int ColumnEnd(int line, std::int64_t device);
+    [[nodiscard]] std::int64_t TimeBehind(std::int64_t device) const;
     void MergeColumn(int first, int last);
-    void Stretch(int line, std::vector<ChartStroke>& strokes);
-    void Draw(const LineEnds& ends, Series series, StrokeKind kind, bool isDimmed,
-              std::vector<ChartStroke>& strokes) const;
+    void Stretch(int line, const Place& from, const Place& to, std::vector<ChartStroke>& strokes);
+    [[nodiscard]] ChartStroke StrokeOf(const LineEnds& ends, Series series, StrokeKind kind,
+                                       bool isDimmed) const;
     [[nodiscard]] std::int64_t DeviceColumn(std::int64_t time) const
     {
-        return RoundPixel64(static_cast<double>(m_view.window.Column(time)) * m_view.scaleX);
+        return m_view.Device64(m_view.window.Column(time), m_view.scaleX);
     }
 
     const CLineIndex& m_index;

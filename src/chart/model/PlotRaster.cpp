@@ -59,39 +59,84 @@ void CPlotRaster::Fill(const ChartRect& rect, std::uint32_t colour)
     Block(rect.left, std::int64_t{rect.right} - 1, rect.top, std::int64_t{rect.bottom} - 1, colour);
 }
 
+void CPlotRaster::Run(std::int64_t column, std::int64_t top, std::int64_t bottom,
+                      std::uint32_t colour)
+{
+    if (column < m_area.left || column >= m_area.right)
+        return;
+    const std::int64_t begin = std::max<std::int64_t>(top, m_area.top);
+    const std::int64_t end = std::min<std::int64_t>(bottom + 1, m_area.bottom);
+    if (begin >= end)
+        return;
+    std::uint32_t* pixel =
+        m_corner + (column - m_area.left) * m_columnStep + (begin - m_area.top) * m_rowStep;
+    if (m_rowStep == 1) {
+        std::fill_n(pixel, end - begin, colour);
+        return;
+    }
+    for (std::int64_t row = begin; row < end; ++row, pixel += m_rowStep)
+        *pixel = colour;
+}
+
 void CPlotRaster::Block(std::int64_t left, std::int64_t right, std::int64_t top,
                         std::int64_t bottom, std::uint32_t colour)
 {
     const std::int64_t first = std::max<std::int64_t>(left, m_area.left);
     const std::int64_t last = std::min<std::int64_t>(right, std::int64_t{m_area.right} - 1);
+    if (m_rowStep == 1) {
+        for (std::int64_t x = first; x <= last; ++x)
+            Run(x, top, bottom, colour);
+        return;
+    }
+    if (first > last)
+        return;
     const std::int64_t begin = std::max<std::int64_t>(top, m_area.top);
     const std::int64_t end = std::min<std::int64_t>(bottom + 1, m_area.bottom);
-    if (begin >= end)
-        return;
-    const std::int64_t rows = end - begin;
-    for (std::int64_t x = first; x <= last; ++x) {
-        std::uint32_t* pixel =
-            m_corner + (x - m_area.left) * m_columnStep + (begin - m_area.top) * m_rowStep;
-        if (m_rowStep == 1) {
-            std::fill_n(pixel, rows, colour);
-            continue;
-        }
-        for (std::int64_t row = 0; row < rows; ++row, pixel += m_rowStep)
-            *pixel = colour;
-    }
+    std::uint32_t* pixel = m_corner + (first - m_area.left) + (begin - m_area.top) * m_rowStep;
+    for (std::int64_t row = begin; row < end; ++row, pixel += m_rowStep)
+        std::fill_n(pixel, last - first + 1, colour);
 }
 
 void CPlotRaster::Line(int x1, int y1, int x2, int y2, int width, std::uint32_t colour)
 {
     const std::int64_t dx = std::abs(std::int64_t{x2} - x1);
     const std::int64_t dy = std::abs(std::int64_t{y2} - y1);
-    if (dx == 0 && dy == 0)
+    // Nearly all lines are thin and lie in one column or two.
+    if (width == 1 && dx == 0)
+        Run(x1, std::min(y1, y2), std::max(y1, y2), colour);
+    else if (width == 1 && dx == 1)
+        Step(x1, y1, x2, y2, colour);
+    else if (dx == 0 && dy == 0)
         Block(x1 - Before(width), x1 + Behind(width), y1 - Before(width), y1 + Behind(width),
               colour);
     else if (dy >= dx)
         Steep(x1, y1, x2, y2, width, colour);
     else
         Flat(x1, y1, x2, y2, width, colour);
+}
+
+/// A thin line into the next column: each column holds the rows nearer to it, the left one that in
+/// the middle.
+void CPlotRaster::Step(int x1, int y1, int x2, int y2, std::uint32_t colour)
+{
+    if (x1 > x2) {
+        std::swap(x1, x2);
+        std::swap(y1, y2);
+    }
+    const std::int64_t rows = std::abs(std::int64_t{y2} - y1);
+    if (rows == 0) {
+        Run(x1, y1, y1, colour);
+        Run(x2, y1, y1, colour);
+        return;
+    }
+    const std::int64_t near = (rows - 1) / 2; // rows behind the first one
+    if (y2 > y1) {
+        Run(x1, y1, y1 + near, colour);
+        Run(x2, y1 + near + 1, y2, colour);
+    } else {
+        Run(x1, y1 - near, y1, colour);
+        Run(x2, y2, y1 - near - 1, colour);
+    }
 }
 
 /// A line with at least as many rows as columns: its row y lies in the column nearest to it. Goes

@@ -34,9 +34,12 @@ public:
 
 private:
     [[nodiscard]] int Height() const { return m_area.bottom - m_area.top; }
-    /// Rows from `top` to `bottom`, both included, of columns from `left` to `right`, likewise.
+    /// Rows from `top` to `bottom`, both included, of one column.
+    void Run(std::int64_t column, std::int64_t top, std::int64_t bottom, std::uint32_t colour);
+    /// The same of columns from `left` to `right`, likewise.
     void Block(std::int64_t left, std::int64_t right, std::int64_t top, std::int64_t bottom,
                std::uint32_t colour);
+    void Step(int x1, int y1, int x2, int y2, std::uint32_t colour);
     void Steep(std::int64_t x1, std::int64_t y1, std::int64_t x2, std::int64_t y2, int width,
                std::uint32_t colour);
     void Flat(std::int64_t x1, std::int64_t y1, std::int64_t x2, std::int64_t y2, int width,

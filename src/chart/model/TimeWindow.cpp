@@ -1,7 +1,5 @@
 #include "chart/model/TimeWindow.h"
 
-#include "chart/model/Rounding.h"
-
 #include <algorithm>
 #include <limits>
 
@@ -60,11 +58,6 @@ void CTimeWindow::SetPlot(int left, int right)
         m_atMaxZoom = true;
     }
     m_pixelsPerMs = width / static_cast<double>(m_paddedEnd - m_paddedStart);
-}
-
-std::int64_t CTimeWindow::Column(std::int64_t time) const
-{
-    return RoundPixel64(static_cast<double>(time - m_paddedStart) * m_pixelsPerMs) + m_plotLeft;
 }
 
 std::int64_t CTimeWindow::TimeAt(int column) const

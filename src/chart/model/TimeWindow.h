@@ -1,6 +1,7 @@
 #pragma once
 
 #include "chart/model/ChartTypes.h"
+#include "chart/model/Rounding.h"
 
 #include <cstdint>
 
@@ -31,7 +32,10 @@ public:
     void SetPlot(int left, int right);
 
     /// Content column of a time; far outside the window it does not fit 16 bits.
-    [[nodiscard]] std::int64_t Column(std::int64_t time) const;
+    [[nodiscard]] std::int64_t Column(std::int64_t time) const
+    {
+        return RoundPixel64(static_cast<double>(time - m_paddedStart) * m_pixelsPerMs) + m_plotLeft;
+    }
     /// The time at a content column, the fraction of a millisecond cut off.
     [[nodiscard]] std::int64_t TimeAt(int column) const;
     /// Half the width of a bar in columns.

@@ -55,23 +55,19 @@ std::string HumidityLabel(double value)
     return text.back() == '0' ? text.substr(0, text.size() - 2) : std::string();
 }
 
-std::vector<ValueTick> ValueTicks(const CValueScale& scale, int clientHeight, DisplayUnit unit)
+std::vector<ValueGridLine> ValueGrid(const CValueScale& scale, int clientHeight)
 {
     const double interval = CValueScale::GridInterval(scale.GetStep());
     const int top = scale.m_scrollY;
     const int bottom = scale.m_scrollY + clientHeight;
-    std::vector<ValueTick> ticks;
-    const auto draw = [&](double at, int row) {
-        ticks.push_back(
-            {at, row, AccelerationLabel(at, unit), TemperatureLabel(at), HumidityLabel(at)});
-    };
+    std::vector<ValueGridLine> lines;
     double value = 0.0;
     while (value <= HighestTick) {
         const int row = scale.Row(value);
         if (row < top)
             break;
         if (row < bottom)
-            draw(value, row);
+            lines.push_back({value, row});
         value += interval;
     }
     value = -interval;
@@ -79,9 +75,18 @@ std::vector<ValueTick> ValueTicks(const CValueScale& scale, int clientHeight, Di
         const int row = scale.Row(value);
         if (row > bottom)
             break;
-        draw(value, row);
+        lines.push_back({value, row});
         value -= interval;
     }
+    return lines;
+}
+
+std::vector<ValueTick> ValueTicks(const CValueScale& scale, int clientHeight, DisplayUnit unit)
+{
+    std::vector<ValueTick> ticks;
+    for (const auto& [value, row] : ValueGrid(scale, clientHeight))
+        ticks.push_back({value, row, AccelerationLabel(value, unit), TemperatureLabel(value),
+                         HumidityLabel(value)});
     return ticks;
 }
 

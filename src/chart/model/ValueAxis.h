@@ -16,7 +16,14 @@ enum class DisplayUnit
     Gal = 2,
 };
 
-/// One grid line of the value axis with its labels.
+/// One grid line of the value axis.
+struct ValueGridLine
+{
+    double value = 0.0; ///< axis value
+    int row = 0;        ///< content row
+};
+
+/// The same with its labels.
 struct ValueTick
 {
     double value = 0.0; ///< axis value
@@ -28,6 +35,7 @@ struct ValueTick
 
 /// The grid lines that a window of `clientHeight` rows shows: from 0 upward, then from below 0
 /// downward.
+[[nodiscard]] std::vector<ValueGridLine> ValueGrid(const CValueScale& scale, int clientHeight);
 [[nodiscard]] std::vector<ValueTick> ValueTicks(const CValueScale& scale, int clientHeight,
                                                 DisplayUnit unit);
 

@@ -1,7 +1,5 @@
 #include "chart/model/ValueScale.h"
 
-#include "chart/model/Rounding.h"
-
 #include <algorithm>
 #include <cstddef>
 
@@ -57,11 +55,6 @@ void CValueScale::SetStep(int step, int labelHeight)
     m_plotBottom = RoundPixel(m_pixelsPerUnit * AxisSpan) + PlotTop;
     m_contentHeight = labelHeight / 2 + m_plotBottom;
     m_zeroY = (m_plotBottom - PlotTop) / 2 + PlotTop;
-}
-
-int CValueScale::Offset(double value) const
-{
-    return RoundPixel(m_pixelsPerUnit * value);
 }
 
 int CValueScale::AutomaticStep(double minimum, double maximum, int hgt)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "chart/model/ChartTypes.h"
+#include "chart/model/Rounding.h"
 
 #include <array>
 
@@ -32,9 +33,10 @@ public:
     void SetStep(int step, int labelHeight);
     [[nodiscard]] int GetStep() const { return m_step; }
     [[nodiscard]] double Divisor() const { return m_divisor; }
+    [[nodiscard]] double PixelsPerUnit() const { return m_pixelsPerUnit; }
 
     /// Pixels of an axis value above the zero line, negative below it.
-    [[nodiscard]] int Offset(double value) const;
+    [[nodiscard]] int Offset(double value) const { return RoundPixel(m_pixelsPerUnit * value); }
     /// Content row of an axis value.
     [[nodiscard]] int Row(double value) const { return m_zeroY - Offset(value); }
 

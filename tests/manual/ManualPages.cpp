@@ -88,11 +88,11 @@ std::vector<std::filesystem::path> Pages(const Language& language)
 {
     std::vector<std::filesystem::path> pages;
     for (const auto& entry : std::filesystem::directory_iterator(Folder() / language.folder)) {
-        if (entry.path().extension() == ".html")
+        if (entry.path().extension() == ".html" && entry.path().filename() != language.first)
             pages.push_back(entry.path());
     }
     std::sort(pages.begin(), pages.end());
-    pages.insert(pages.begin(), Folder() / language.first);
+    pages.insert(pages.begin(), Folder() / language.folder / language.first);
     return pages;
 }
 

@@ -10,8 +10,8 @@ namespace skeldon::manual {
 /// One language of the manual.
 struct Language
 {
-    const char* folder; ///< of its pages but the first
-    const char* first;  ///< the page that Help opens
+    const char* folder; ///< of its pages
+    const char* first;  ///< the page among them that Help opens
 };
 
 inline constexpr Language English{"en", "SKELDON_Light_En.html"};

@@ -25,6 +25,43 @@ void GetData(CFrameApp& app)
     app.Press(Qt::Key_D, Qt::ControlModifier);
 }
 
+/// Starts the program and connects such a recorder to it.
+bool StartWith(CFrameApp& app, std::vector<std::string> options)
+{
+    if (!app.Start())
+        return false;
+    app.PlugIn(std::move(options));
+    return app.Connect();
+}
+
+/// Starts the program on five unsaved lines, with a recorder that holds ten.
+bool StartOverLines(CFrameApp& app)
+{
+    constexpr std::size_t OldLines = 5;
+    if (!StartWith(app, {"--lines", "10"}))
+        return false;
+    app.TakeLines(OldLines);
+    app.m_prompts->m_shown.clear();
+    return true;
+}
+
+/// Moves the clock behind the end of a silence once the strip tells of all lines that will arrive,
+/// after so many looks more.
+std::function<void(CProgressWindow&)> MovingOn(CFrameApp& app, int moreLooks = 0)
+{
+    return [&app, looks = -moreLooks](CProgressWindow& strip) mutable {
+        if (strip.Position() >= ArrivedLines && ++looks > 0)
+            app.m_clock.MoveOn(CRecorderTransport::TimeoutMs);
+    };
+}
+
+/// Closes the frame when the transfer has begun. `isWanted` tells whether that was done.
+void CloseOnce(CFrameApp& app, const CProgressWindow& strip, bool& isWanted)
+{
+    if (!strip.GetText().isEmpty() && !std::exchange(isWanted, true))
+        app.Frame().close();
+}
+
 } // namespace
 
 /// Get data on recorders that fail.
@@ -36,9 +73,7 @@ private slots:
     void TooFewLinesAreKept()
     {
         CFrameApp app;
-        QVERIFY(app.Start());
-        app.PlugIn({"--lines", "10", "--fault", "too-few=3"});
-        QVERIFY(app.Connect());
+        QVERIFY(StartWith(app, {"--lines", "10", "--fault", "too-few=3"}));
         QString summaryAtBox;
         app.m_prompts->m_whileShown = [&](const Prompt& /*prompt*/) {
             summaryAtBox = app.View().Summary();
@@ -59,9 +94,7 @@ private slots:
     void NoLinesAtAll()
     {
         CFrameApp app;
-        QVERIFY(app.Start());
-        app.PlugIn({"--lines", "10", "--fault", "too-few=10"});
-        QVERIFY(app.Connect());
+        QVERIFY(StartWith(app, {"--lines", "10", "--fault", "too-few=10"}));
         GetData(app);
         QCOMPARE(app.m_prompts->Boxes(), QStringList(NoData));
         QVERIFY(app.View().Data().IsEmpty());
@@ -74,10 +107,8 @@ private slots:
     void SilentRecorder()
     {
         CFrameApp app;
-        QVERIFY(app.Start());
-        app.PlugIn({"--lines", "400", "--alpha", "--fault",
-                    "silence-after=" + std::to_string(LineBytes * ArrivedLines)});
-        QVERIFY(app.Connect());
+        QVERIFY(StartWith(app, {"--lines", "400", "--alpha", "--fault",
+                                "silence-after=" + std::to_string(LineBytes * ArrivedLines)}));
         QCOMPARE(app.m_app->Link().m_lineLength, LineBytes);
         CStripWatch watch;
         CPaintCounter paints(app.View());
@@ -108,17 +139,11 @@ private slots:
     void LineCutShortBySilenceIsFlagged()
     {
         CFrameApp app;
-        QVERIFY(app.Start());
-        app.PlugIn({"--lines", "400", "--alpha", "--fault",
-                    "silence-after=" + std::to_string(LineBytes * ArrivedLines + 9)});
-        QVERIFY(app.Connect());
+        QVERIFY(StartWith(app, {"--lines", "400", "--alpha", "--fault",
+                                "silence-after=" + std::to_string(LineBytes * ArrivedLines + 9)}));
         CStripWatch watch;
-        int quiet = 0;
-        watch.m_look = [&](CProgressWindow& strip) {
-            // Until all that comes has come the link is not yet silent.
-            if (strip.Position() >= ArrivedLines && ++quiet > 20)
-                app.m_clock.MoveOn(CRecorderTransport::TimeoutMs);
-        };
+        // Until all that comes has come the link is not yet silent.
+        watch.m_look = MovingOn(app, 20);
         GetData(app);
         const CMeasureData& data = app.View().Data();
         QCOMPARE(data.GetSize(), std::size_t{ArrivedLines + 1});
@@ -130,16 +155,11 @@ private slots:
     void CablePulledInTheMiddle()
     {
         CFrameApp app;
-        QVERIFY(app.Start());
-        app.PlugIn({"--lines", "400", "--alpha", "--fault",
-                    "pull-after=" + std::to_string(LineBytes * ArrivedLines)});
-        QVERIFY(app.Connect());
+        QVERIFY(StartWith(app, {"--lines", "400", "--alpha", "--fault",
+                                "pull-after=" + std::to_string(LineBytes * ArrivedLines)}));
         app.m_hints.clear();
         CStripWatch watch;
-        watch.m_look = [&](CProgressWindow& strip) {
-            if (strip.Position() >= ArrivedLines)
-                app.m_clock.MoveOn(CRecorderTransport::TimeoutMs);
-        };
+        watch.m_look = MovingOn(app);
         GetData(app);
         QCOMPARE(app.m_prompts->Boxes(), QStringList(Failed));
         QCOMPARE(app.View().Data().GetSize(), std::size_t{ArrivedLines});
@@ -160,9 +180,7 @@ private slots:
     void MissingMarkAtTheEndCostsNoLine()
     {
         CFrameApp app;
-        QVERIFY(app.Start());
-        app.PlugIn({"--lines", "400", "--fault", "no-mark=D"});
-        QVERIFY(app.Connect());
+        QVERIFY(StartWith(app, {"--lines", "400", "--fault", "no-mark=D"}));
         QTimer mover;
         bool isFinishing = false;
         connect(&mover, &QTimer::timeout, this, [&] {
@@ -183,14 +201,11 @@ private slots:
     void CloseWaitsForTheMissingMarkToo()
     {
         CFrameApp app;
-        QVERIFY(app.Start());
-        app.PlugIn({"--lines", "400", "--fault", "no-mark=D"});
-        QVERIFY(app.Connect());
+        QVERIFY(StartWith(app, {"--lines", "400", "--fault", "no-mark=D"}));
         CStripWatch watch;
         bool isWanted = false;
         watch.m_look = [&](CProgressWindow& strip) {
-            if (!strip.GetText().isEmpty() && !std::exchange(isWanted, true))
-                app.Frame().close();
+            CloseOnce(app, strip, isWanted);
             if (app.View().Data().GetSize() == 400)
                 app.m_clock.MoveOn(CRecorderTransport::TimeoutMs);
         };
@@ -204,15 +219,10 @@ private slots:
     void CloseWaitsForTheBoxThatTellsOfTheFailure()
     {
         CFrameApp app;
-        QVERIFY(app.Start());
-        app.PlugIn({"--lines", "80", "--fault", "too-few=3"});
-        QVERIFY(app.Connect());
+        QVERIFY(StartWith(app, {"--lines", "80", "--fault", "too-few=3"}));
         CStripWatch watch;
         bool isWanted = false;
-        watch.m_look = [&](CProgressWindow& strip) {
-            if (!strip.GetText().isEmpty() && !std::exchange(isWanted, true))
-                app.Frame().close();
-        };
+        watch.m_look = [&](CProgressWindow& strip) { CloseOnce(app, strip, isWanted); };
         bool isEarly = false;
         app.m_prompts->m_whileShown = [&](const Prompt& prompt) {
             if (prompt.text != Failed)
@@ -233,13 +243,9 @@ private slots:
     void StatusThatCanNotBeRead()
     {
         CFrameApp app;
-        QVERIFY(app.Start());
-        app.TakeLines(5);
-        app.PlugIn({"--lines", "10"});
-        QVERIFY(app.Connect());
+        QVERIFY(StartOverLines(app));
         app.Pull();
         app.PlugInJunk();
-        app.m_prompts->m_shown.clear();
         app.m_prompts->m_answers = {Answer::No};
         CStripWatch watch;
         GetData(app);
@@ -257,9 +263,7 @@ private slots:
     void RecorderThatFallsSilentBeforeItsStatus()
     {
         CFrameApp app;
-        QVERIFY(app.Start());
-        app.PlugIn({"--lines", "10"});
-        QVERIFY(app.Connect());
+        QVERIFY(StartWith(app, {"--lines", "10"}));
         app.PlugIn({"--lines", "10", "--fault", "silence=p"});
         CPaintCounter paints(app.View());
         int painted = 0;
@@ -289,12 +293,8 @@ private slots:
     void CancelledQuestionLeavesEverything()
     {
         CFrameApp app;
-        QVERIFY(app.Start());
-        app.TakeLines(5);
-        app.PlugIn({"--lines", "10"});
-        QVERIFY(app.Connect());
+        QVERIFY(StartOverLines(app));
         const QString path = app.View().DataPath();
-        app.m_prompts->m_shown.clear();
         app.m_prompts->m_answers = {Answer::Cancel};
         CStripWatch watch;
         GetData(app);
@@ -307,12 +307,8 @@ private slots:
     void CablePulledDuringTheQuestionKeepsTheData()
     {
         CFrameApp app;
-        QVERIFY(app.Start());
-        app.TakeLines(5);
-        app.PlugIn({"--lines", "10"});
-        QVERIFY(app.Connect());
+        QVERIFY(StartOverLines(app));
         const QString path = app.View().DataPath();
-        app.m_prompts->m_shown.clear();
         app.m_prompts->m_answers = {Answer::No};
         app.m_prompts->m_whileShown = [&](const Prompt& prompt) {
             if (prompt.boxKind != BoxKind::YesNoCancel)
@@ -329,9 +325,7 @@ private slots:
     void SecondTransferFollowsAFailedOne()
     {
         CFrameApp app;
-        QVERIFY(app.Start());
-        app.PlugIn({"--lines", "120", "--fault", "too-few=60"});
-        QVERIFY(app.Connect());
+        QVERIFY(StartWith(app, {"--lines", "120", "--fault", "too-few=60"}));
         GetData(app);
         QCOMPARE(app.View().Data().GetSize(), std::size_t{60});
         app.PlugIn({"--lines", "120"});

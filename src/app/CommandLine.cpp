@@ -1,5 +1,7 @@
 #include "app/CommandLine.h"
 
+#include <QFile>
+
 namespace skeldon {
 
 void CSkeldonCommandLine::ParseParam(const QString& word, bool isFlag, bool /*isLast*/)
@@ -28,6 +30,14 @@ void CSkeldonCommandLine::Parse(const QStringList& words)
         const int dashes = word.startsWith(QLatin1String("--")) ? 2 : 1;
         ParseParam(isFlag ? word.mid(dashes) : word, isFlag, i + 1 == words.size());
     }
+}
+
+QStringList WordsOf(int argc, const char* const* argv)
+{
+    QStringList words;
+    for (int i = 1; i < argc; ++i)
+        words << QFile::decodeName(argv[i]);
+    return words;
 }
 
 } // namespace skeldon

@@ -21,4 +21,7 @@ public:
     bool m_enableMonitor = false;  ///< the monitor command stays in the menus
 };
 
+/// The words behind the program's name, of what `main` was given.
+[[nodiscard]] QStringList WordsOf(int argc, const char* const* argv);
+
 } // namespace skeldon

@@ -13,6 +13,7 @@
 #include <QLocale>
 #include <QThread>
 
+#include <algorithm>
 #include <memory>
 
 using namespace skeldon;
@@ -49,7 +50,10 @@ int main(int argc, char** argv)
 {
     // The two bars change places in the window itself.
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
-    QApplication application(argc, argv);
+    // The toolkit has words of its own, "-display" among them, and would take what stands behind:
+    // it gets the program's name alone.
+    int toolkitCount = std::min(argc, 1);
+    QApplication application(toolkitCount, argv);
     const auto pictures = DrawPicturesBeside(application);
     QApplication::setApplicationName(QStringLiteral("SKELDON Light"));
     QApplication::setApplicationVersion(QString::fromLatin1(ProgramVersion));
@@ -72,7 +76,7 @@ int main(int argc, char** argv)
     services.showSettings = RunSettings;
     services.showAbout = [](QWidget* parent) { CAboutBox(parent).exec(); };
     CSkeldonApp skeldon(std::move(services));
-    if (!skeldon.InitInstance(QApplication::arguments().mid(1))) {
+    if (!skeldon.InitInstance(WordsOf(argc, argv))) {
         frame.reset();
         return 0;
     }

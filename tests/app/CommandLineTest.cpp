@@ -78,6 +78,14 @@ private slots:
         QCOMPARE(line.m_fileName, u"-setup"_s);
         QVERIFY(!line.m_startInDisplay);
     }
+
+    void WordsStandBehindTheProgramsName()
+    {
+        const char* const given[] = {"skeldon-light", "-display", "\xE8\xA8\x88 1.skd"};
+        QCOMPARE(WordsOf(3, given), (QStringList{u"-display"_s, u"計 1.skd"_s}));
+        QCOMPARE(WordsOf(1, given), QStringList());
+        QCOMPARE(WordsOf(0, given), QStringList());
+    }
 };
 
 QTEST_GUILESS_MAIN(CCommandLineTest)

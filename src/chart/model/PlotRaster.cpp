@@ -1,5 +1,7 @@
 #include "chart/model/PlotRaster.h"
 
+#include "chart/model/platform/FourPixels.h"
+
 #include <algorithm>
 #include <cstdlib>
 #include <utility>
@@ -33,7 +35,8 @@ void CPlotRaster::Reset(const ChartRect& area, std::uint32_t background)
     m_area.right = std::max(area.right, area.left);
     m_area.bottom = std::max(area.bottom, area.top);
     const auto columns = static_cast<std::size_t>(m_area.right - m_area.left);
-    m_pixels.assign(columns * static_cast<std::size_t>(Height()), background);
+    m_pixels.resize(columns * static_cast<std::size_t>(Height()));
+    FloodPixels(m_pixels.data(), m_pixels.size(), background);
     m_corner = m_pixels.data();
     m_columnStep = Height();
     m_rowStep = 1;
@@ -71,7 +74,7 @@ void CPlotRaster::Run(std::int64_t column, std::int64_t top, std::int64_t bottom
     std::uint32_t* pixel =
         m_corner + (column - m_area.left) * m_columnStep + (begin - m_area.top) * m_rowStep;
     if (m_rowStep == 1) {
-        std::fill_n(pixel, end - begin, colour);
+        FillPixels(pixel, static_cast<std::size_t>(end - begin), colour);
         return;
     }
     for (std::int64_t row = begin; row < end; ++row, pixel += m_rowStep)
@@ -94,7 +97,7 @@ void CPlotRaster::Block(std::int64_t left, std::int64_t right, std::int64_t top,
     const std::int64_t end = std::min<std::int64_t>(bottom + 1, m_area.bottom);
     std::uint32_t* pixel = m_corner + (first - m_area.left) + (begin - m_area.top) * m_rowStep;
     for (std::int64_t row = begin; row < end; ++row, pixel += m_rowStep)
-        std::fill_n(pixel, last - first + 1, colour);
+        FillPixels(pixel, static_cast<std::size_t>(last - first + 1), colour);
 }
 
 void CPlotRaster::Line(int x1, int y1, int x2, int y2, int width, std::uint32_t colour)
@@ -198,21 +201,28 @@ void CPlotRaster::Flat(std::int64_t x1, std::int64_t y1, std::int64_t x2, std::i
 
 void CPlotRaster::CopyTo(std::uint32_t* image, std::size_t stride) const
 {
-    // In squares that fit the nearest cache on both sides.
-    constexpr std::size_t Square = 32;
+    // In blocks that fit the nearest cache on both sides, those in squares as far as they go.
+    constexpr std::size_t Block = 32;
+    constexpr std::size_t Square = 4;
     const auto columns = static_cast<std::size_t>(m_area.right - m_area.left);
     const auto rows = static_cast<std::size_t>(Height());
+    const auto wholeColumns = columns / Square * Square;
+    const auto wholeRows = rows / Square * Square;
     std::uint32_t* const corner = image + static_cast<std::size_t>(m_area.top) * stride +
                                   static_cast<std::size_t>(m_area.left);
-    for (std::size_t y = 0; y < rows; y += Square) {
-        const std::size_t lastRow = std::min(y + Square, rows);
-        for (std::size_t x = 0; x < columns; x += Square) {
-            const std::size_t lastColumn = std::min(x + Square, columns);
-            for (std::size_t row = y; row < lastRow; ++row) {
-                for (std::size_t column = x; column < lastColumn; ++column)
-                    corner[row * stride + column] = m_pixels[column * rows + row];
+    for (std::size_t top = 0; top < wholeRows; top += Block) {
+        const std::size_t bottom = std::min(top + Block, wholeRows);
+        for (std::size_t left = 0; left < wholeColumns; left += Block) {
+            const std::size_t right = std::min(left + Block, wholeColumns);
+            for (std::size_t y = top; y < bottom; y += Square) {
+                for (std::size_t x = left; x < right; x += Square)
+                    TransposeSquare(&m_pixels[x * rows + y], rows, corner + y * stride + x, stride);
             }
         }
+    }
+    for (std::size_t y = 0; y < rows; ++y) {
+        for (std::size_t x = y < wholeRows ? wholeColumns : 0; x < columns; ++x)
+            corner[y * stride + x] = m_pixels[x * rows + y];
     }
 }
 

@@ -13,6 +13,23 @@ using skeldon::test::CSetupApp;
 
 namespace {
 
+/// A cable that is out, and counts how often that is looked at.
+class CCountedCable final : public CCableFinder
+{
+public:
+    explicit CCountedCable(int& looks)
+        : m_looks(looks)
+    {}
+    [[nodiscard]] std::optional<std::string> FindPort() override
+    {
+        ++m_looks;
+        return std::nullopt;
+    }
+
+private:
+    int& m_looks;
+};
+
 /// Has the recorder's next report tell that start option.
 void GiveStartOption(CSetupApp& app, const std::string& option)
 {
@@ -44,6 +61,7 @@ private slots:
     void RangeIsOfferedWhereThereAreTwo_data();
     void RangeIsOfferedWhereThereAreTwo();
     void CableDialogWaitsForConversations();
+    void CableThatIsOutClosesItsDialogAtTheFirstLook();
 };
 
 void RecorderCommandsTest::ReceivedConditionsAreShown()
@@ -310,6 +328,21 @@ void RecorderCommandsTest::CableDialogWaitsForConversations()
     QTRY_VERIFY(isEnded);
     QTRY_VERIFY(!dialog.isVisible());
     QCOMPARE(dialog.result(), static_cast<int>(QDialog::Accepted));
+}
+
+void RecorderCommandsTest::CableThatIsOutClosesItsDialogAtTheFirstLook()
+{
+    CSetupApp app;
+    int looks = 0;
+    CRecorderLink link(std::make_unique<CCountedCable>(looks), nullptr, app.m_clock);
+    CCableDialog dialog(link);
+    QElapsedTimer stood;
+    stood.start();
+    app.m_onCable = [](CCableDialog&) {};
+    QCOMPARE(dialog.exec(), static_cast<int>(QDialog::Accepted));
+    QCOMPARE(looks, 1);
+    // The timer may be early by a twentieth.
+    QVERIFY(stood.elapsed() >= 475);
 }
 
 QTEST_MAIN(RecorderCommandsTest)

@@ -80,6 +80,7 @@ private slots:
     void SheetThatCanOnlyBeClosedHasOneButton();
     void SheetOffersHelpWhereItHasSome();
     void SheetHasThreePages();
+    void SheetOpensInTheMiddleOfItsWindow();
     void FilePageShowsItsKeys_data();
     void FilePageShowsItsKeys();
     void FilePageStoresItsKeys_data();
@@ -181,6 +182,18 @@ void SettingsSheetTest::SheetHasThreePages()
     QCOMPARE(sheet.m_cancel->text(), QStringLiteral("Cancel"));
     QVERIFY(sheet.m_help == nullptr);
     QCOMPARE(sheet.findChildren<QPushButton*>().size(), 2);
+}
+
+void SettingsSheetTest::SheetOpensInTheMiddleOfItsWindow()
+{
+    QWidget window;
+    window.setGeometry(120, 90, 500, 420);
+    window.show();
+    CSettingDialog sheet(&window);
+    sheet.show();
+    const QPoint off = sheet.frameGeometry().center() - window.frameGeometry().center();
+    QVERIFY2(off.manhattanLength() <= 4,
+             qPrintable(QStringLiteral("%1 %2").arg(off.x()).arg(off.y())));
 }
 
 void SettingsSheetTest::FilePageShowsItsKeys_data()

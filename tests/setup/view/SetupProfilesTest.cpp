@@ -20,6 +20,7 @@ private slots:
     void AddedProfileIsSelected();
     void AddEndsWithNinetyNineProfiles();
     void FailedSaveIsTold();
+    void FolderThatCanNotBeWrittenIsTold();
     void UpdatedNumberMovesTheLine();
     void DeleteAsksForTheName();
     void DeletedProfileLeavesBlankReadOuts();
@@ -89,6 +90,22 @@ void SetupProfilesTest::FailedSaveIsTold()
     app.Click(SetupButton::Update);
     QCOMPARE(app.m_prompts->Boxes().size(), 2);
     QVERIFY(app.Button(SetupButton::Update).isEnabled());
+}
+
+void SetupProfilesTest::FolderThatCanNotBeWrittenIsTold()
+{
+    CSetupApp app;
+    std::filesystem::remove(app.m_folder.Profiles());
+    test::WriteText(app.m_folder.Profiles(), "precious");
+    app.Show();
+    QVERIFY(app.Lines().isEmpty());
+    app.Click(SetupButton::Change);
+    QTest::keyClicks(app.Form().m_name, QStringLiteral("box"));
+    app.Click(SetupButton::Add);
+    QCOMPARE(app.m_prompts->Boxes(), QStringList("Could not save profile."));
+    QVERIFY(app.Lines().isEmpty());
+    QVERIFY(app.Button(SetupButton::Add).isEnabled());
+    QCOMPARE(test::ReadText(app.m_folder.Profiles()), std::string("precious"));
 }
 
 void SetupProfilesTest::UpdatedNumberMovesTheLine()

@@ -101,6 +101,8 @@ private slots:
     void RefusedStartSendsNothing();
     void StartOptionIsToldAndSent();
     void SnapshotOfTheConditionsIsSent();
+    void TemplateStartsWithoutHostNumber();
+    void StartLeavesTheViewAsItIs();
 
 private:
     /// One start; gives what was sent, and waits for `wire`.
@@ -166,25 +168,35 @@ void StartTest::EveryRecorderGetsItsCommands()
 void StartTest::RefusedStartSendsNothing_data()
 {
     QTest::addColumn<int>("lines");
+    QTest::addColumn<int>("capacity");
     QTest::addColumn<CommandId>("command");
     QTest::addColumn<Answer>("answer");
-    QTest::newRow("empty") << 0 << CommandId::StartPrompt << Answer::No;
-    QTest::newRow("choice cancelled") << 40 << CommandId::StartPrompt << Answer::Cancel;
-    QTest::newRow("reserved") << 40 << CommandId::StartReserved << Answer::No;
+    QTest::addColumn<BoxKind>("kind");
+    using enum CommandId;
+    QTest::newRow("empty") << 0 << 100 << StartPrompt << Answer::No << BoxKind::NoYes;
+    QTest::newRow("empty, reserved") << 0 << 100 << StartReserved << Answer::No << BoxKind::NoYes;
+    QTest::newRow("cancelled") << 40 << 100 << StartPrompt << Answer::Cancel
+                               << BoxKind::YesNoCancel;
+    QTest::newRow("reserved") << 40 << 100 << StartReserved << Answer::No << BoxKind::NoYes;
+    QTest::newRow("full") << 40 << 40 << StartPrompt << Answer::No << BoxKind::NoYes;
+    QTest::newRow("full, reserved") << 40 << 40 << StartReserved << Answer::No << BoxKind::NoYes;
 }
 
 void StartTest::RefusedStartSendsNothing()
 {
     QFETCH(int, lines);
+    QFETCH(int, capacity);
     QFETCH(CommandId, command);
     QFETCH(Answer, answer);
     CSetupApp app;
     app.Show();
     app.Load(ConditionsOf(Find("10")));
-    app.Play(Options(Find("10"), {"--lines", std::to_string(lines)}));
+    app.Play(Options(Find("10"),
+                     {"--lines", std::to_string(lines), "--capacity", std::to_string(capacity)}));
     app.m_prompts->m_answers = {answer};
     app.Command(command);
     QCOMPARE(app.m_prompts->m_shown.size(), std::size_t{1});
+    QTEST(app.m_prompts->m_shown.front().boxKind, "kind");
     QCOMPARE(app.m_cableDialogs, 0);
     QCOMPARE(app.Sent(), QByteArray());
 }
@@ -221,6 +233,42 @@ void StartTest::SnapshotOfTheConditionsIsSent()
     QCOMPARE(app.State().m_current.Threshold, 1);
     QCOMPARE(app.Sent("mi3jAd99k1N07w00z1ms2031 03/04 05:06:07t"),
              QByteArray("mi3jAd99k1N07w00z1ms2031 03/04 05:06:07t"));
+}
+
+void StartTest::TemplateStartsWithoutHostNumber()
+{
+    CSetupApp app;
+    app.m_folder.WriteTemplate("sea", "SerialNo=7\r\nSampling=2\r\nStartOpt=0\r\n");
+    app.Show();
+    app.m_clock.m_now = FromLocalFields({2031, 3, 4, 5, 6, 7});
+    app.Play(Options(Find("10"), {}));
+    app.Click(SetupButton::Template);
+    app.ClickLine(0);
+    const QByteArray wire = "mi5j^d00k0N00w00z1ms2031 03/04 05:06:07t";
+    QCOMPARE(Start(app, CommandId::StartPrompt, Answer::Yes, Sure, wire), wire);
+}
+
+void StartTest::StartLeavesTheViewAsItIs()
+{
+    CSetupApp app;
+    app.m_folder.WriteProfile("crate", "SerialNo=7\r\nStartOpt=0\r\n");
+    app.Show();
+    app.Play(Options(Find("10"), {}));
+    app.ClickLine(0);
+    app.Click(SetupButton::Change);
+    app.Press(SetupStep::ThresholdUp);
+    const CMeasureCondition current = app.State().m_current;
+    const CMeasureCondition saved = app.State().m_saved;
+    // Edit mode may be on.
+    app.m_prompts->m_answers = {Answer::Yes};
+    app.Click(SetupButton::StartPrompt);
+    QCOMPARE(app.m_cableDialogs, 1);
+    QVERIFY(app.State().m_bEditing);
+    QVERIFY(app.State().m_current.SameConditions(current));
+    QVERIFY(app.State().m_saved.SameConditions(saved));
+    QCOMPARE(app.Lines(), QStringList("07 crate"));
+    QCOMPARE(app.State().m_nListSel, 0);
+    QVERIFY(app.Button(SetupButton::Update).isEnabled());
 }
 
 QTEST_MAIN(StartTest)

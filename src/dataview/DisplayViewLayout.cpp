@@ -39,7 +39,6 @@ void CDisplayView::MakeButtons()
     for (const ButtonForm& form : ButtonForms()) {
         auto* const button = new CSkinButton(this);
         m_buttons[static_cast<std::size_t>(form.button)] = button;
-        button->SetName(Text(form.name));
         connect(button, &CSkinButton::clicked, this, [this, &form] { OnCommand(form.command); });
     }
 }
@@ -55,8 +54,10 @@ void CDisplayView::SetUpButtons()
         else
             button.SetUpPicture(form.picture);
         button.SetTint(TintOf(App().m_viewBaseColour));
+        // Captions are short; screen readers and tool tips have the whole name.
         if (!form.IsAxis())
             button.SetCaption(Text(form.caption));
+        button.SetName(Text(form.name));
         if (!form.IsSeries())
             continue;
         const bool isShown = settings.GetInt(SystemSection, KeyOf(form.shownKey), 1) != 0;

@@ -137,6 +137,22 @@ private slots:
                                         "ZmOut", "Properties"}));
     }
 
+    void ButtonsAreCalledByTheirWholeNames()
+    {
+        CViewApp app;
+        app.Show();
+        QStringList names;
+        for (int i = 0; i < ButtonCount; ++i) {
+            const CSkinButton& button = app.View().Button(static_cast<DataViewButton>(i));
+            names << button.accessibleName();
+            QCOMPARE(button.toolTip(), button.accessibleName());
+        }
+        QCOMPARE(names, (QStringList{"Open measured data", "Save measured data", "Print",
+                                     "Get Data", "Online Recording", "Setup", "X axis", "Y axis",
+                                     "Z axis", "Resultant", "Temperature", "Humidity",
+                                     "Zoom in on an area", "Zoom out", "Properties of the chart"}));
+    }
+
     void OnlyTheFifteenButtonsAreThere()
     {
         CViewApp app;

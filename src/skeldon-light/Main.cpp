@@ -1,5 +1,6 @@
 // The window.
 #include "app/DesktopPrompts.h"
+#include "app/PasteGuard.h"
 #include "app/SkeldonApp.h"
 #include "base/Version.h"
 #include "controls/AboutBox.h"
@@ -76,6 +77,8 @@ int main(int argc, char** argv)
     services.showSettings = RunSettings;
     services.showAbout = [](QWidget* parent) { CAboutBox(parent).exec(); };
     CSkeldonApp skeldon(std::move(services));
+    CPasteGuard guard;
+    application.installEventFilter(&guard);
     if (!skeldon.InitInstance(WordsOf(argc, argv))) {
         frame.reset();
         return 0;

@@ -1,19 +1,25 @@
 #include "app/Clipboard.h"
 #include "app/DesktopPrompts.h"
+#include "app/PasteGuard.h"
 #include "support/window/TestServices.h"
 
 #include <QApplication>
 #include <QClipboard>
+#include <QComboBox>
+#include <QContextMenuEvent>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QImage>
+#include <QLineEdit>
 #include <QMimeData>
 #include <QProcess>
+#include <QSpinBox>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include <csignal>
 #include <cstdio>
+#include <functional>
 #include <memory>
 
 using namespace skeldon;
@@ -27,6 +33,7 @@ constexpr int WaitMs = 20'000;
 const QString ReadText = u"read-text"_s;
 const QString ReadPicture = u"read-picture"_s;
 const QString OwnAndHang = u"own-and-hang"_s;
+const QString OwnAndAnswer = u"own-and-answer"_s;
 
 void Tell(const QByteArray& text)
 {
@@ -38,11 +45,12 @@ void Tell(const QByteArray& text)
 int RunAsAnother(const QString& word)
 {
     QClipboard& clipboard = *QGuiApplication::clipboard();
-    if (word == OwnAndHang) {
-        clipboard.setText(u"never given"_s);
+    if (word == OwnAndHang || word == OwnAndAnswer) {
+        for (const QClipboard::Mode mode : {QClipboard::Clipboard, QClipboard::Selection})
+            clipboard.setText(u"given"_s, mode);
         QCoreApplication::processEvents();
         Tell("owned\n");
-        return std::raise(SIGSTOP);
+        return word == OwnAndHang ? std::raise(SIGSTOP) : QCoreApplication::exec();
     }
     if (word == ReadText) {
         Tell(clipboard.text().toUtf8());
@@ -115,6 +123,8 @@ private:
 
 } // namespace
 
+Q_DECLARE_METATYPE(std::function<void(QLineEdit&)>)
+
 /// The clipboard that programs share, on a display of its own.
 class ClipboardTest : public QObject
 {
@@ -178,6 +188,98 @@ private slots:
                  isPicture ? QByteArray("300 x 200 #1177ee") : QByteArray("a\r\n"));
     }
 
+    void AnOwnerThatHangsCanNotBePasted_data()
+    {
+        QTest::addColumn<std::function<void(QLineEdit&)>>("paste");
+        const auto add = [](const char* name, std::function<void(QLineEdit&)> paste) {
+            QTest::newRow(name) << std::move(paste);
+        };
+        add("Ctrl and V",
+            [](QLineEdit& edit) { QTest::keyClick(&edit, Qt::Key_V, Qt::ControlModifier); });
+        add("Shift and Insert",
+            [](QLineEdit& edit) { QTest::keyClick(&edit, Qt::Key_Insert, Qt::ShiftModifier); });
+        add("selection by keys", [](QLineEdit& edit) {
+            QTest::keyClick(&edit, Qt::Key_Insert, Qt::ControlModifier | Qt::ShiftModifier);
+        });
+        add("middle button", [](QLineEdit& edit) { QTest::mouseClick(&edit, Qt::MiddleButton); });
+        add("menu", [](QLineEdit& edit) {
+            QContextMenuEvent menu(QContextMenuEvent::Keyboard, {3, 3}, edit.mapToGlobal(QPoint()));
+            QApplication::sendEvent(&edit, &menu);
+        });
+    }
+
+    void AnOwnerThatHangsCanNotBePasted()
+    {
+        QFETCH(const std::function<void(QLineEdit&)>, paste);
+        CAnother owner(OwnAndHang);
+        QTRY_VERIFY_WITH_TIMEOUT(owner.canReadLine() && IsStopped(owner), WaitMs);
+        CPasteGuard guard;
+        qApp->installEventFilter(&guard);
+        QLineEdit edit(u"kept"_s);
+        edit.show();
+        QElapsedTimer timer;
+        timer.start();
+        paste(edit);
+        // The toolkit alone would give up after 15 seconds.
+        QVERIFY2(timer.elapsed() < 10'000, qPrintable(QString::number(timer.elapsed())));
+        QCOMPARE(edit.text(), u"kept"_s);
+        QCOMPARE(QApplication::activePopupWidget(), nullptr);
+        // Other keys go on.
+        QTest::keyClick(&edit, Qt::Key_X);
+        QCOMPARE(edit.text(), u"keptx"_s);
+    }
+
+    void FieldsWithAnEditInsideAreGuardedToo()
+    {
+        CAnother owner(OwnAndHang);
+        QTRY_VERIFY_WITH_TIMEOUT(owner.canReadLine() && IsStopped(owner), WaitMs);
+        CPasteGuard guard;
+        qApp->installEventFilter(&guard);
+        QComboBox combo;
+        combo.setEditable(true);
+        QSpinBox spin;
+        QElapsedTimer timer;
+        timer.start();
+        for (QWidget* const field : {static_cast<QWidget*>(&combo), static_cast<QWidget*>(&spin)}) {
+            field->show();
+            QTest::keyClick(field, Qt::Key_V, Qt::ControlModifier);
+            QContextMenuEvent menu(QContextMenuEvent::Keyboard, {3, 3},
+                                   field->mapToGlobal(QPoint()));
+            QApplication::sendEvent(field, &menu);
+            QCOMPARE(QApplication::activePopupWidget(), nullptr);
+        }
+        QVERIFY2(timer.elapsed() < 10'000, qPrintable(QString::number(timer.elapsed())));
+    }
+
+    void AnOwnerThatAnswersIsPasted()
+    {
+        CPasteGuard guard;
+        qApp->installEventFilter(&guard);
+        QLineEdit edit;
+        edit.show();
+        CAnother owner(OwnAndAnswer);
+        QTRY_VERIFY_WITH_TIMEOUT(owner.canReadLine(), WaitMs);
+        QTest::keyClick(&edit, Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(edit.text(), u"given"_s);
+        QTest::mouseClick(&edit, Qt::MiddleButton);
+        QCOMPARE(edit.text().count(u"given"_s), 2);
+        QContextMenuEvent menu(QContextMenuEvent::Keyboard, {3, 3}, edit.mapToGlobal(QPoint()));
+        QApplication::sendEvent(&edit, &menu);
+        QTRY_VERIFY(QApplication::activePopupWidget() != nullptr);
+        QApplication::activePopupWidget()->close();
+    }
+
+    void WhatThisProgramCopiedIsPasted()
+    {
+        CPasteGuard guard;
+        qApp->installEventFilter(&guard);
+        QVERIFY(CopyLinesToClipboard({"own"}));
+        QLineEdit edit;
+        edit.show();
+        QTest::keyClick(&edit, Qt::Key_V, Qt::ControlModifier);
+        QVERIFY(edit.text().startsWith(u"own"_s));
+    }
+
 private:
     CSystemClock m_clock;
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -188,7 +290,7 @@ private:
 int main(int argc, char** argv)
 {
     const QString word = argc == 2 ? QString::fromLocal8Bit(argv[1]) : QString();
-    if (word == ReadText || word == ReadPicture || word == OwnAndHang) {
+    if (QStringList{ReadText, ReadPicture, OwnAndHang, OwnAndAnswer}.contains(word)) {
         const QGuiApplication application(argc, argv);
         return RunAsAnother(word);
     }

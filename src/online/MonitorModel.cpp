@@ -3,7 +3,6 @@
 #include "app/DataText.h"
 
 #include <string_view>
-#include <utility>
 
 namespace skeldon {
 
@@ -19,13 +18,13 @@ QVariant CMonitorModel::data(const QModelIndex& index, int role) const
     return FromDataText(m_lines.Line(static_cast<std::size_t>(index.row())));
 }
 
-bool CMonitorModel::Add(MonitorPart part)
+bool CMonitorModel::Add(const MonitorPart& part)
 {
     if (!m_lines.IsNews(part))
         return false;
     // Thousands of lines may come and go at once: whoever looks takes a fresh look.
     beginResetModel();
-    m_lines.Add(std::move(part));
+    m_lines.Add(part);
     endResetModel();
     return true;
 }

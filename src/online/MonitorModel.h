@@ -18,7 +18,7 @@ public:
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
 
     /// Moves taken lines in; false if they bring nothing new.
-    bool Add(MonitorPart part);
+    bool Add(const MonitorPart& part);
     /// Sets the limit and drops the lines that are too many; false if there were none.
     bool SetMaxLines(int lines);
     void Clear();

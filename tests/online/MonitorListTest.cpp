@@ -20,7 +20,7 @@ MonitorPart Numbers(int first, int count)
 {
     MonitorPart part{{}, Closed};
     for (int i = first; i < first + count; ++i)
-        part.lines.push_back(std::to_string(i));
+        part.lines.Add(std::to_string(i));
     return part;
 }
 
@@ -38,9 +38,9 @@ bool IsDrawn(const QImage& picture, const QRect& row)
 
 struct Shown
 {
-    explicit Shown(MonitorPart part)
+    explicit Shown(const MonitorPart& part)
     {
-        m_lines.Add(std::move(part));
+        m_lines.Add(part);
         m_list.SetLines(m_lines);
         m_list.resize(200, 150);
         m_list.show();

@@ -2,31 +2,38 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <utility>
+#include <string_view>
 
 namespace skeldon {
 
 bool CMonitorLines::IsNews(const MonitorPart& part) const
 {
-    if (part.lines.empty())
+    if (part.lines.IsEmpty())
         return false;
-    const bool isSameOpenLine = IsLastOpen() && part.lines.size() == 1 && !part.isLastClosed &&
-                                part.lines.front().size() == m_lines.back().size();
+    const bool isSameOpenLine = IsLastOpen() && part.lines.Size() == 1 && !part.isLastClosed &&
+                                part.lines.LastLine().size() == m_lines.back().size();
     return !isSameOpenLine;
 }
 
-void CMonitorLines::Add(MonitorPart part)
+void CMonitorLines::Add(const MonitorPart& part)
 {
     if (!IsNews(part))
         return;
     if (IsLastOpen())
         m_lines.pop_back();
-    for (std::string& line : part.lines) {
-        if (IsOverLimit() && !m_lines.empty())
-            m_lines.pop_front();
+    const std::size_t count = part.lines.Size();
+    const std::size_t limit = static_cast<std::size_t>(std::max(m_maxLines, 0)) + 1;
+    const std::size_t most = std::max(limit, m_lines.size());
+    // What would be dropped behind the next few lines is not even moved.
+    const std::size_t first = count > most ? count - most : 0;
+    for (std::size_t i = 0; i < count; ++i) {
+        const std::string_view line = part.lines.Line(i);
         m_longest = std::max(m_longest, line.size());
-        m_lines.push_back(std::move(line));
+        if (i >= first)
+            m_lines.emplace_back(line);
     }
+    while (m_lines.size() > most)
+        m_lines.pop_front();
     m_listLineClosed = part.isLastClosed;
 }
 

@@ -25,7 +25,7 @@ public:
     [[nodiscard]] bool IsNews(const MonitorPart& part) const;
     /// Moves taken lines to the end. The first of them replaces a last line that was not complete.
     /// With the limit reached each line drops the first one, so that one more than the limit stay.
-    void Add(MonitorPart part);
+    void Add(const MonitorPart& part);
     /// Drops lines from the top until there are no more than the limit. False if there were none to
     /// drop.
     bool Trim();

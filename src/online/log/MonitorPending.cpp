@@ -1,14 +1,25 @@
 #include "online/log/MonitorPending.h"
 
-#include <algorithm>
+#include <string>
+#include <utility>
 
 namespace skeldon {
 
 namespace {
 
-constexpr bool IsShown(char c)
+constexpr char LineEnd = '\r';
+
+/// The characters that are shown, and the ends of lines between them.
+std::string Readable(std::string_view bytes)
 {
-    return c >= ' ' && c <= '}';
+    std::string text(bytes.size(), '\0');
+    char* end = text.data();
+    for (const char c : bytes) {
+        *end = c;
+        end += (c >= ' ' && c <= '}') || c == LineEnd ? 1 : 0;
+    }
+    text.resize(static_cast<std::size_t>(end - text.data()));
+    return text;
 }
 
 } // namespace
@@ -22,15 +33,19 @@ void CMonitorPending::ReportCommand(std::string_view text)
 
 void CMonitorPending::ReportBytes(std::string_view bytes)
 {
+    const std::string readable = Readable(bytes);
+    std::string_view text = readable;
     const std::lock_guard guard(m_lock);
     for (;;) {
-        const std::size_t end = bytes.find('\r');
-        AppendShown(bytes.substr(0, end));
+        const std::size_t end = text.find(LineEnd);
         if (end == std::string_view::npos)
-            return;
-        Append({});
+            return AppendShown(text);
+        if (end > 0)
+            AppendShown(text.substr(0, end));
+        else
+            Append({});
         m_lineClosed = true;
-        bytes.remove_prefix(end + 1);
+        text.remove_prefix(end + 1);
     }
 }
 
@@ -38,41 +53,35 @@ MonitorPart CMonitorPending::Take()
 {
     MonitorPart part;
     const std::lock_guard guard(m_lock);
-    part.lines.swap(m_pending);
+    part.lines = std::exchange(m_pending, {});
     part.isLastClosed = m_lineClosed;
-    if (!m_lineClosed && !part.lines.empty())
-        m_pending.push_back(part.lines.back());
+    if (!m_lineClosed && !part.lines.IsEmpty())
+        m_pending.Add(part.lines.LastLine());
     return part;
 }
 
 void CMonitorPending::Clear()
 {
     const std::lock_guard guard(m_lock);
-    m_pending.clear();
+    m_pending.Clear();
 }
 
 void CMonitorPending::Append(std::string_view text)
 {
-    if (m_lineClosed || m_pending.empty())
-        m_pending.emplace_back(text);
+    if (m_lineClosed || m_pending.IsEmpty())
+        m_pending.Add(text);
     else
-        m_pending.back() += text;
+        m_pending.Extend(text);
 }
 
-/// Appends the characters among `bytes`, of which there is no carriage return.
-void CMonitorPending::AppendShown(std::string_view bytes)
+void CMonitorPending::AppendShown(std::string_view text)
 {
-    auto next = bytes.begin();
-    for (;;) {
-        const auto first = std::find_if(next, bytes.end(), IsShown);
-        if (first == bytes.end())
-            return;
-        next = std::find_if_not(first, bytes.end(), IsShown);
-        if (!m_pending.empty() && m_pending.back().size() >= LongestLine)
-            m_lineClosed = true;
-        Append(std::string_view(first, next));
-        m_lineClosed = false;
-    }
+    if (text.empty())
+        return;
+    if (!m_pending.IsEmpty() && m_pending.LastLine().size() >= LongestLine)
+        m_lineClosed = true;
+    Append(text);
+    m_lineClosed = false;
 }
 
 } // namespace skeldon

@@ -1,17 +1,17 @@
 #pragma once
 
+#include "online/log/LineBlock.h"
+
 #include <cstddef>
 #include <mutex>
-#include <string>
 #include <string_view>
-#include <vector>
 
 namespace skeldon {
 
 /// What was taken out of the pending lines.
 struct MonitorPart
 {
-    std::vector<std::string> lines;
+    CLineBlock lines;
     bool isLastClosed = false; ///< the last line is complete
 };
 
@@ -37,10 +37,10 @@ public:
 
 private:
     void Append(std::string_view text);
-    void AppendShown(std::string_view bytes);
+    void AppendShown(std::string_view text);
 
     std::mutex m_lock;
-    std::vector<std::string> m_pending;
+    CLineBlock m_pending;
     bool m_lineClosed = false; ///< the last line of `m_pending` is complete
 };
 

@@ -107,6 +107,37 @@ TEST(MonitorLines, LimitOutOfRangeKeepsTheNewestLine)
     }
 }
 
+TEST(MonitorLines, DropsAsIfLineAfterLineCame)
+{
+    // The rule as it is told: where there are more than the limit the first one goes.
+    const auto plain = [](std::vector<std::string> old, const MonitorPart& part, int limit) {
+        for (std::size_t i = 0; i < part.lines.Size(); ++i) {
+            if (static_cast<int>(old.size()) > limit && !old.empty())
+                old.erase(old.begin());
+            old.emplace_back(part.lines.Line(i));
+        }
+        return old;
+    };
+    for (int before = 0; before <= 6; ++before) {
+        for (int limit = -1; limit <= 5; ++limit) {
+            for (int count = 1; count <= 9; ++count) {
+                CMonitorLines lines;
+                MonitorPart part{{}, Closed};
+                for (int i = 0; i < before; ++i)
+                    part.lines.Add("old " + std::to_string(i));
+                lines.Add(part);
+                lines.m_maxLines = limit;
+                part.lines.Clear();
+                for (int i = 0; i < count; ++i)
+                    part.lines.Add(std::to_string(i));
+                const std::vector<std::string> expected = plain(All(lines), part, limit);
+                lines.Add(part);
+                ASSERT_EQ(All(lines), expected) << before << " " << limit << " " << count;
+            }
+        }
+    }
+}
+
 TEST(MonitorLines, TrimsDownToTheLimit)
 {
     CMonitorLines lines;

@@ -3,7 +3,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <atomic>
+#include <iterator>
 #include <numeric>
 #include <thread>
 
@@ -13,10 +15,18 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
+std::vector<std::string> All(const MonitorPart& part)
+{
+    std::vector<std::string> all;
+    for (std::size_t i = 0; i < part.lines.Size(); ++i)
+        all.emplace_back(part.lines.Line(i));
+    return all;
+}
+
 TEST(MonitorPending, HoldsNothingAtFirst)
 {
     CMonitorPending pending;
-    EXPECT_THAT(pending.Take().lines, IsEmpty());
+    EXPECT_THAT(All(pending.Take()), IsEmpty());
 }
 
 TEST(MonitorPending, PutsAReplyOnTheLineBehindItsCommand)
@@ -26,7 +36,7 @@ TEST(MonitorPending, PutsAReplyOnTheLineBehindItsCommand)
     pending.ReportBytes("RLS=1.02\r\n");
     pending.ReportCommand("t");
     const MonitorPart part = pending.Take();
-    EXPECT_THAT(part.lines, ElementsAre("p", "RLS=1.02", "t"));
+    EXPECT_THAT(All(part), ElementsAre("p", "RLS=1.02", "t"));
     EXPECT_TRUE(part.isLastClosed);
 }
 
@@ -36,7 +46,7 @@ TEST(MonitorPending, HangsACommandOnALineThatIsNotComplete)
     pending.ReportBytes("OK#");
     pending.ReportCommand("D");
     pending.ReportBytes("0102");
-    EXPECT_THAT(pending.Take().lines, ElementsAre("OK#D", "0102"));
+    EXPECT_THAT(All(pending.Take()), ElementsAre("OK#D", "0102"));
 }
 
 TEST(MonitorPending, BeginsALineForEachOfTwoCommands)
@@ -45,7 +55,7 @@ TEST(MonitorPending, BeginsALineForEachOfTwoCommands)
     pending.ReportCommand("m");
     pending.ReportCommand("");
     pending.ReportCommand("x");
-    EXPECT_THAT(pending.Take().lines, ElementsAre("m", "", "x"));
+    EXPECT_THAT(All(pending.Take()), ElementsAre("m", "", "x"));
 }
 
 TEST(MonitorPending, TakesACarriageReturnForTheEndOfALine)
@@ -53,7 +63,7 @@ TEST(MonitorPending, TakesACarriageReturnForTheEndOfALine)
     CMonitorPending pending;
     pending.ReportBytes("\r\rG01\r");
     const MonitorPart part = pending.Take();
-    EXPECT_THAT(part.lines, ElementsAre("", "", "G01"));
+    EXPECT_THAT(All(part), ElementsAre("", "", "G01"));
     EXPECT_TRUE(part.isLastClosed);
 }
 
@@ -66,10 +76,10 @@ TEST(MonitorPending, DropsWhatIsNoCharacter)
     std::iota(shown.begin(), shown.end(), ' ');
     CMonitorPending pending;
     pending.ReportBytes(all);
-    EXPECT_THAT(pending.Take().lines, ElementsAre(shown));
+    EXPECT_THAT(All(pending.Take()), ElementsAre(shown));
     pending.Clear();
     pending.ReportBytes("\n~\x7F\x80\xFF");
-    EXPECT_THAT(pending.Take().lines, IsEmpty());
+    EXPECT_THAT(All(pending.Take()), IsEmpty());
 }
 
 TEST(MonitorPending, JoinsWhatArrivesInPieces)
@@ -78,7 +88,7 @@ TEST(MonitorPending, JoinsWhatArrivesInPieces)
     for (const char* piece : {"G", "0", "1\r", "G", "\n02"})
         pending.ReportBytes(piece);
     const MonitorPart part = pending.Take();
-    EXPECT_THAT(part.lines, ElementsAre("G01", "G02"));
+    EXPECT_THAT(All(part), ElementsAre("G01", "G02"));
     EXPECT_FALSE(part.isLastClosed);
 }
 
@@ -86,20 +96,20 @@ TEST(MonitorPending, GivesAnOpenLineAgainWhenItHasGrown)
 {
     CMonitorPending pending;
     pending.ReportBytes("A\r01");
-    EXPECT_THAT(pending.Take().lines, ElementsAre("A", "01"));
-    EXPECT_THAT(pending.Take().lines, ElementsAre("01"));
+    EXPECT_THAT(All(pending.Take()), ElementsAre("A", "01"));
+    EXPECT_THAT(All(pending.Take()), ElementsAre("01"));
     pending.ReportBytes("02");
-    EXPECT_THAT(pending.Take().lines, ElementsAre("0102"));
+    EXPECT_THAT(All(pending.Take()), ElementsAre("0102"));
     pending.ReportBytes("\rB");
-    EXPECT_THAT(pending.Take().lines, ElementsAre("0102", "B"));
+    EXPECT_THAT(All(pending.Take()), ElementsAre("0102", "B"));
 }
 
 TEST(MonitorPending, GivesACompleteLineOnce)
 {
     CMonitorPending pending;
     pending.ReportBytes("01\r");
-    EXPECT_THAT(pending.Take().lines, ElementsAre("01"));
-    EXPECT_THAT(pending.Take().lines, IsEmpty());
+    EXPECT_THAT(All(pending.Take()), ElementsAre("01"));
+    EXPECT_THAT(All(pending.Take()), IsEmpty());
 }
 
 TEST(MonitorPending, BeginsAnewWhenCleared)
@@ -107,9 +117,9 @@ TEST(MonitorPending, BeginsAnewWhenCleared)
     CMonitorPending pending;
     pending.ReportBytes("A\r01");
     pending.Clear();
-    EXPECT_THAT(pending.Take().lines, IsEmpty());
+    EXPECT_THAT(All(pending.Take()), IsEmpty());
     pending.ReportBytes("02");
-    EXPECT_THAT(pending.Take().lines, ElementsAre("02"));
+    EXPECT_THAT(All(pending.Take()), ElementsAre("02"));
 }
 
 TEST(MonitorPending, CutsALineWithoutEndAndLosesNothing)
@@ -119,10 +129,10 @@ TEST(MonitorPending, CutsALineWithoutEndAndLosesNothing)
     for (int i = 0; i < 7; ++i)
         pending.ReportBytes(block);
     const MonitorPart part = pending.Take();
-    EXPECT_EQ(part.lines.size(), 4U);
+    EXPECT_EQ(part.lines.Size(), 4U);
     EXPECT_FALSE(part.isLastClosed);
     std::size_t sum = 0;
-    for (const std::string& line : part.lines) {
+    for (const std::string& line : All(part)) {
         EXPECT_LE(line.size(), CMonitorPending::LongestLine);
         sum += line.size();
     }
@@ -151,12 +161,12 @@ TEST(MonitorPending, LosesNothingBetweenTwoThreads)
     bool isOpen = false;
     for (bool isLast = false; !isLast;) {
         isLast = isDone;
-        MonitorPart part = pending.Take();
-        if (part.lines.empty())
+        const MonitorPart part = pending.Take();
+        if (part.lines.IsEmpty())
             continue;
         if (isOpen)
             taken.pop_back();
-        taken.insert(taken.end(), part.lines.begin(), part.lines.end());
+        std::ranges::copy(All(part), std::back_inserter(taken));
         isOpen = !part.isLastClosed;
     }
     reader.join();
@@ -177,7 +187,7 @@ TEST(MonitorPending, KeepsCommandsOfOneThreadWholeBesideBytesOfAnother)
         pending.ReportCommand("status");
     reader.join();
     std::string text;
-    for (const std::string& line : pending.Take().lines)
+    for (const std::string& line : All(pending.Take()))
         text += line;
     std::size_t commands = 0;
     for (std::size_t at = 0; (at = text.find("status", at)) != std::string::npos; ++at)

@@ -68,6 +68,25 @@ private slots:
         QVERIFY(app.View().CanOperate());
     }
 
+    void LongestRecordingReachesTheViewWhole()
+    {
+        CFrameApp app;
+        QVERIFY(app.Start());
+        app.Settings().WriteInt(SystemSection, QStringLiteral("OnlineSecond"), 10'000);
+        app.PlugIn({"--type", "qm70", "--time-scale", "2000"});
+        QVERIFY(app.Connect());
+        QString total;
+        Record(app, [&](COnlineDialog& dialog) { total = dialog.m_totalText->GetText(); });
+        QCOMPARE(total, QStringLiteral("4999"));
+        const CMeasureData& data = app.View().Data();
+        QCOMPARE(data.GetSize(), std::size_t{999'800});
+        QCOMPARE(data.m_minStepMs, 5);
+        const auto& lines = data.Records();
+        QCOMPARE(lines.back().TimeMs() - lines.front().TimeMs(), std::int64_t{4'998'995});
+        QVERIFY(app.View().Summary().contains(QStringLiteral("999800")));
+        QCOMPARE(app.m_prompts->Boxes(), QStringList());
+    }
+
     void UnsavedDataIsAskedAbout()
     {
         CFrameApp app;

@@ -2,6 +2,7 @@
 #include "StreamRecorder.h"
 
 #include "controls/CableDialog.h"
+#include "online/MonitorList.h"
 #include "support/window/PaintCounter.h"
 
 #include <QApplication>
@@ -55,7 +56,7 @@ private slots:
         QVERIFY(ShowUp(app));
         QStringList seen;
         Type(app, QStringLiteral("p"), [&] {
-            // The window's own timer moves the log on; the reply's mark ends nothing.
+            // The reply's mark ends nothing.
             seen = app.Log();
             if (seen.join(QString()).endsWith(QLatin1Char('#')))
                 app.m_clock.MoveOn(CRecorderTransport::TimeoutMs);
@@ -69,6 +70,38 @@ private slots:
         // The next operation deals with the open port.
         QVERIFY(app.Link().ReadStatus());
         QVERIFY(!app.Link().IsOpen());
+    }
+
+    void LogMovesOnMeanwhileByItself()
+    {
+        COnlineApp app;
+        app.PlugIn();
+        CMonitorDialog& monitor = app.MakeMonitor();
+        QVERIFY(ShowUp(app));
+        const QAbstractItemModel& list = *monitor.m_list->model();
+        QString last;
+        Type(app, QStringLiteral("p"), [&] {
+            last = list.index(list.rowCount() - 1, 0).data().toString();
+            if (last.endsWith(QLatin1Char('#')))
+                app.m_clock.MoveOn(CRecorderTransport::TimeoutMs);
+        });
+        QVERIFY(last.endsWith(QLatin1Char('#')));
+    }
+
+    void EmptyCommandIsSentToo()
+    {
+        COnlineApp app;
+        app.PlugIn();
+        app.MakeMonitor();
+        QVERIFY(ShowUp(app));
+        bool isWaiting = false;
+        Type(app, QString(), [&] {
+            isWaiting = true;
+            app.m_clock.MoveOn(CRecorderTransport::TimeoutMs);
+        });
+        QVERIFY(isWaiting);
+        QCOMPARE(app.Heard(), QStringLiteral("m"));
+        QCOMPARE(app.m_prompts->m_failureBeeps, 0);
     }
 
     void WindowsPaintAndKeysWaitMeanwhile()

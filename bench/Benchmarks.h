@@ -13,6 +13,7 @@ namespace skeldon::bench {
 [[nodiscard]] Work AddAnalysisOfDownload();
 [[nodiscard]] Work AddSignature();
 [[nodiscard]] Work AddDownload();
+[[nodiscard]] Work AddMonitor();
 [[nodiscard]] Work AddChartWhole();
 [[nodiscard]] Work AddChartNoise();
 [[nodiscard]] Work AddChartPart();

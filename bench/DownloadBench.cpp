@@ -1,16 +1,15 @@
 #include "Benchmarks.h"
 #include "Rounds.h"
 #include "SampleData.h"
+#include "SimulatorPort.h"
 
 #include "base/Clock.h"
 #include "recorder/ReadBack.h"
 #include "recorder/RecorderPort.h"
-#include "support/Process.h"
 
 #include <chrono>
 #include <cstdlib>
 #include <fcntl.h>
-#include <map>
 #include <memory>
 #include <pty.h>
 #include <string>
@@ -52,28 +51,6 @@ private:
     std::unique_ptr<CSerialPort> m_port;
     Instant& m_begin;
 };
-
-/// A simulated recorder of so many lines, started once.
-const std::string& SimulatorPort(std::size_t lines)
-{
-    struct Running
-    {
-        test::CTemporaryFolder folder;
-        std::string port = folder.Path("korva").string();
-        std::unique_ptr<test::CBackgroundProgram> simulator;
-    };
-    static std::map<std::size_t, Running> running;
-    Running& own = running[lines];
-    if (!own.simulator) {
-        const std::string count = std::to_string(lines);
-        own.simulator = std::make_unique<test::CBackgroundProgram>(
-            SIMULATOR, std::vector<std::string>{"--link", own.port, "--alpha", "--lines", count,
-                                                "--capacity", count});
-        if (own.simulator->Ready().empty())
-            std::abort();
-    }
-    return own.port;
-}
 
 double Skeldon(std::size_t lines)
 {

@@ -124,7 +124,7 @@ void PrintMemory()
 /// The rows of the table that are asked for; all where none is named.
 std::vector<Work> AddWorks(const std::vector<std::string>& names)
 {
-    constexpr std::array<std::pair<std::string_view, Work (*)()>, 13> Makers{{
+    constexpr std::array<std::pair<std::string_view, Work (*)()>, 14> Makers{{
         {"load", AddLoad},
         {"save", AddSave},
         {"csv", AddCsv},
@@ -133,6 +133,7 @@ std::vector<Work> AddWorks(const std::vector<std::string>& names)
         {"analysis-download", AddAnalysisOfDownload},
         {"signature", AddSignature},
         {"download", AddDownload},
+        {"monitor", AddMonitor},
         {"chart-whole", AddChartWhole},
         {"chart-noise", AddChartNoise},
         {"chart-part", AddChartPart},

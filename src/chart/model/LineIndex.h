@@ -48,14 +48,14 @@ private:
 /// What is precomputed over the lines of a chart, so that a picture costs by its columns and not by
 /// its lines: the extremes of blocks of lines, of blocks of blocks and so on, the time at each
 /// block's start, and where the time line falls. The lines are not owned; they must stay where and
-/// as they are, or `Build` must run again. Costs less than 10 bytes a line.
+/// as they are, or `Build` must run again. Costs less than 5 bytes a line of rising times.
 ///
 /// Lines of rising or equal times in a row are a run. The lines before the first break of a data
 /// set are one run; only a data set that was never analysed or whose years were repaired has more.
 class CLineIndex
 {
 public:
-    static constexpr int BlockLines = 16;
+    static constexpr int BlockLines = 32;
     static constexpr int Fan = 8;
 
     /// One pass over the lines.

@@ -39,12 +39,11 @@ void CDisplayView::OnFilePrint()
         if (!m_printJob)
             m_printJob = std::make_unique<CPrintJob>(*this, CPrintJob::Source{*m_chart, *m_list},
                                                      *m_printers);
+        m_printJob->Offer(m_printSettings, count, ProposedPdfPath(m_printJob->PdfPath()));
     } catch (const std::bad_alloc&) {
         return Warn(StringId::PrintNoMemory);
     }
-    m_printJob->m_lines = {1, std::max(count, 1)};
-    m_printJob->m_pdfPath = ProposedPdfPath(m_printJob->m_pdfPath);
-    m_printJob->Run(m_printSettings, count);
+    m_printJob->Run(m_printSettings);
     QMetaObject::invokeMethod(this, &CDisplayView::RefreshControls, Qt::QueuedConnection);
 }
 

@@ -43,9 +43,17 @@ CPrintJob::CPrintJob(QWidget& view, const Source& source, CPrinters& printers)
 
 CPrintJob::~CPrintJob() = default;
 
-void CPrintJob::Run(PrintSettings& settings, int count)
+void CPrintJob::Offer(const PrintSettings& settings, int count, const QString& pdfPath)
 {
-    if (!OnPreparePrinting(settings, count)) {
+    m_dialog.m_settings = settings;
+    m_dialog.m_lines = {1, std::max(count, 1)};
+    m_dialog.m_pdfPath = pdfPath;
+    m_dialog.OnInitDialog(count);
+}
+
+void CPrintJob::Run(PrintSettings& settings)
+{
+    if (!OnPreparePrinting(settings)) {
         m_dialog.m_printer.reset();
         return;
     }
@@ -57,12 +65,8 @@ void CPrintJob::Run(PrintSettings& settings, int count)
         Warn(StringId::PrintFailed);
 }
 
-bool CPrintJob::OnPreparePrinting(PrintSettings& settings, int count)
+bool CPrintJob::OnPreparePrinting(PrintSettings& settings)
 {
-    m_dialog.m_settings = settings;
-    m_dialog.m_lines = m_lines;
-    m_dialog.m_pdfPath = m_pdfPath;
-    m_dialog.OnInitDialog(count);
     if (!App().Prompts().RunDialog(m_dialog) || !m_dialog.m_printer)
         return false;
     settings = m_settings = m_dialog.m_settings;
@@ -123,6 +127,9 @@ CPrintJob::Outcome CPrintJob::PrintPages()
             return Outcome::Failed;
         if (!OnPrint(painter, i / timesEach + 1)) {
             printer.abort();
+            painter.end();
+            if (isPdf)
+                QFile::remove(m_pdfPath);
             return Outcome::Ended;
         }
     }

@@ -37,16 +37,17 @@ public:
     CPrintJob(const CPrintJob&) = delete;
     CPrintJob& operator=(const CPrintJob&) = delete;
 
-    /// Asks and prints. `settings` are those of the dialog after its OK. `count` is the number of
-    /// lines that there are.
-    void Run(PrintSettings& settings, int count);
+    /// Makes the dialog ready: all of `count` lines are offered, and `pdfPath` where no printer is
+    /// installed. Throws where memory does not suffice.
+    void Offer(const PrintSettings& settings, int count, const QString& pdfPath);
+    /// Asks and prints. `settings` are those of the dialog after its OK.
+    void Run(PrintSettings& settings);
 
-    PrintLines m_lines; ///< offered in the dialog, and chosen there
-    /// Where a PDF file is offered to be written to; the one chosen last.
-    QString m_pdfPath;
+    /// The PDF file printed last; empty for none.
+    [[nodiscard]] QString PdfPath() const { return m_pdfPath; }
 
 private:
-    bool OnPreparePrinting(PrintSettings& settings, int count);
+    bool OnPreparePrinting(PrintSettings& settings);
     void OnBeginPrinting();
     /// False ends the printing without a message.
     bool OnPrint(QPainter& painter, int page);
@@ -67,6 +68,8 @@ private:
     CPrinters& m_printers;
     CDisplayPrintDialog m_dialog;
     PrintSettings m_settings;
+    PrintLines m_lines;
+    QString m_pdfPath;
     PagePlan m_plan;
 };
 

@@ -1,6 +1,5 @@
 #include "chart/view/ChartPainter.h"
 
-#include "chart/model/PagePlan.h"
 #include "chart/model/Rounding.h"
 #include "resources/StringTable.h"
 
@@ -150,7 +149,7 @@ void CChartPainter::WalkLines(const ChartRect& area, bool equalRunAlone)
     }
 }
 
-bool CChartPainter::PaintCurves(CScaledPainter& painter, int bottom)
+bool CChartPainter::PaintCurves(CScaledPainter& painter, int bottom, std::int64_t bandBytes)
 {
     constexpr int PixelBytes = sizeof(std::uint32_t);
     constexpr int Overlap = 16;
@@ -163,8 +162,8 @@ bool CChartPainter::PaintCurves(CScaledPainter& painter, int bottom)
     if (width < 1)
         return true;
     WalkLines(area, false);
-    for (const RowBand& band : PlanBands({area.top, area.bottom}, std::int64_t{width} * PixelBytes,
-                                         PageBandBytes, Overlap)) {
+    for (const RowBand& band :
+         PlanBands({area.top, area.bottom}, std::int64_t{width} * PixelBytes, bandBytes, Overlap)) {
         QImage picture(width, band.bottom - band.top, QImage::Format_RGB32);
         if (picture.isNull())
             return false;

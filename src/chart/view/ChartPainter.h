@@ -3,6 +3,7 @@
 #include "app/Colour.h"
 #include "chart/model/BarWalk.h"
 #include "chart/model/ChartModel.h"
+#include "chart/model/PagePlan.h"
 #include "chart/model/PlotRaster.h"
 #include "chart/view/ScaledPainter.h"
 
@@ -54,8 +55,9 @@ public:
     /// The chart layer's ground and value axis.
     void PaintAxis(CScaledPainter& painter);
     /// Grid and curves down to above the device row `bottom`, through pictures that take no more
-    /// than `PageBandBytes`. False if such a picture can not be made.
-    [[nodiscard]] bool PaintCurves(CScaledPainter& painter, int bottom);
+    /// than `bandBytes`. False if such a picture can not be made.
+    [[nodiscard]] bool PaintCurves(CScaledPainter& painter, int bottom,
+                                   std::int64_t bandBytes = PageBandBytes);
     void PaintTimeStrip(CScaledPainter& painter, int top);
     /// What lies over the layers.
     void PaintOver(CScaledPainter& painter, const std::optional<std::pair<int, int>>& selection);

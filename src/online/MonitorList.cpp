@@ -69,8 +69,13 @@ void CMonitorList::updateGeometries()
     if (m_lines == nullptr)
         return;
     const int rows = m_lines->rowCount();
-    verticalScrollBar()->setPageStep(std::max(VisibleLines(), 1));
-    verticalScrollBar()->setRange(0, std::max(rows - VisibleLines(), 0));
+    QScrollBar& down = *verticalScrollBar();
+    const bool isAtEnd = down.value() == down.maximum();
+    down.setPageStep(std::max(VisibleLines(), 1));
+    down.setRange(0, std::max(rows - VisibleLines(), 0));
+    // Where the horizontal bar takes the room of a line, the last one stays in sight.
+    if (isAtEnd)
+        down.setValue(down.maximum());
     constexpr std::size_t Widest = std::numeric_limits<int>::max() / 256;
     const auto columns = static_cast<int>(std::min(m_lines->Lines().LongestLine(), Widest));
     const int width = TextX + columns * ColumnWidth();

@@ -89,6 +89,34 @@ private slots:
         QCOMPARE(shown.RectOf(502).bottom(), bottom);
     }
 
+    void LastLineStaysInSightWhateverTheRoom()
+    {
+        Shown shown(Numbers(0, 500));
+        const auto isLastInSight = [&](int row) {
+            const QRect last = shown.RectOf(row);
+            const int height = shown.m_list.viewport()->height();
+            return last.bottom() < height && last.bottom() >= height - 2 * last.height();
+        };
+        shown.m_list.ScrollToEnd();
+        QVERIFY(isLastInSight(499));
+        // A long line brings the horizontal bar, which takes room from the lines.
+        const int height = shown.m_list.viewport()->height();
+        shown.m_lines.Add({{std::string(500, '7')}, Closed});
+        shown.m_list.ScrollToEnd();
+        QTRY_VERIFY(shown.m_list.viewport()->height() < height);
+        QVERIFY(isLastInSight(500));
+        for (const int tall : {60, 400, 150}) {
+            shown.m_list.resize(200, tall);
+            QCoreApplication::processEvents();
+            QVERIFY(isLastInSight(500));
+        }
+        // Who has scrolled up stays there.
+        shown.m_list.verticalScrollBar()->setValue(20);
+        shown.m_list.resize(200, 90);
+        QCoreApplication::processEvents();
+        QCOMPARE(shown.m_list.verticalScrollBar()->value(), 20);
+    }
+
     void FewLinesStandAtTheTop()
     {
         Shown shown(Numbers(0, 3));

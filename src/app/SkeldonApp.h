@@ -43,6 +43,8 @@ struct AppServices
     std::function<void(QWidget* parent)> showAbout;
     /// Shows the settings sheet; true if it was closed with OK.
     std::function<bool(QWidget* parent)> showSettings;
+    /// Web page of the online support; empty for none.
+    QString supportAddress;
 };
 
 /// The one application object: what every window needs. Made first in `main` and gone last.

@@ -229,7 +229,7 @@ void CMainFrame::OpenHelp()
 void CMainFrame::OpenSupport()
 {
     // Support is given in Japanese alone.
-    const QUrl address(App().IsJapanese() ? QStringLiteral(SKELDON_SUPPORT_ADDRESS) : QString());
+    const QUrl address(App().IsJapanese() ? App().Services().supportAddress : QString());
     if (!address.isEmpty())
         App().Prompts().OpenPage(address);
 }

@@ -176,8 +176,11 @@ void CMainFrame::changeEvent(QEvent* event)
         m_maximisedFrom.reset();
     // Before the icon or the whole screen takes its place, the window's own place is kept.
     const Qt::WindowStates before = static_cast<QWindowStateChangeEvent*>(event)->oldState();
+    // The setup view's one size leaves nothing to maximise: where a window system does so all the
+    // same, nothing is kept.
+    const bool isSetup = m_nCurrentView == ViewIndex::Setup;
     const bool isNew = (isMinimized() && !before.testFlag(Qt::WindowMinimized)) ||
-                       (isMaximized() && !before.testFlag(Qt::WindowMaximized));
+                       (isMaximized() && !before.testFlag(Qt::WindowMaximized) && !isSetup);
     if (!isNew)
         return;
     SavePlacementAs(before);

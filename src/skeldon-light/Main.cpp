@@ -75,6 +75,7 @@ int main(int argc, char** argv)
         return frame.get();
     };
     services.showSettings = RunSettings;
+    services.supportAddress = QStringLiteral(SKELDON_SUPPORT_ADDRESS);
     services.showAbout = [](QWidget* parent) { CAboutBox(parent).exec(); };
     CSkeldonApp skeldon(std::move(services));
     CPasteGuard guard;

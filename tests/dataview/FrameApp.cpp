@@ -35,6 +35,7 @@ CFrameApp::CFrameApp(const QString& language, const QString& settings)
         return m_frame.get();
     };
     services.showAbout = [this](QWidget* /*parent*/) { ++m_abouts; };
+    services.supportAddress = QString::fromLatin1(SupportAddress);
     services.showSettings = [this](QWidget* /*parent*/) {
         ++m_sheets;
         return m_acceptsSheet;

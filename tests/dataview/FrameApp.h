@@ -19,6 +19,8 @@ namespace skeldon::test {
 class CFrameApp
 {
 public:
+    static constexpr const char* SupportAddress = "https://support.example/recorders?in=ja";
+
     /// `settings` is used again where a test starts the program a second time.
     explicit CFrameApp(const QString& language = QStringLiteral("English"),
                        const QString& settings = {});

@@ -123,6 +123,28 @@ private slots:
         QVERIFY(isSeen);
     }
 
+    void OtherMessagesOfTheStripAreIgnored()
+    {
+        CFrameApp app;
+        QVERIFY(app.Start());
+        app.PlugIn({"--lines", "100"});
+        QVERIFY(app.Connect());
+        CStripWatch watch;
+        std::vector<std::size_t> lines;
+        watch.m_look = [&](CProgressWindow& strip) {
+            if (!lines.empty())
+                return;
+            for (const int code : {0, 2, -1})
+                emit strip.ProgressMessage(code, &strip);
+            lines.push_back(app.View().Data().GetSize());
+            QCOMPARE(strip.Range(), 100); // that of every strip: the work has not begun
+            QVERIFY(strip.GetText().isEmpty());
+        };
+        GetData(app);
+        QCOMPARE(lines, std::vector<std::size_t>{0});
+        QCOMPARE(app.View().Data().GetSize(), std::size_t{100});
+    }
+
     void WarningBlinksByTheLines()
     {
         CFrameApp app;

@@ -356,6 +356,15 @@ private slots:
         QCOMPARE(app.m_prompts->Boxes(), QStringList());
     }
 
+    void SupportIsOpenedInJapanese()
+    {
+        CFrameApp app(QStringLiteral("Japanese"));
+        QVERIFY(app.Start());
+        app.Frame().OnCommand(CommandId::OnlineSupport);
+        QCOMPARE(app.m_prompts->m_pages,
+                 std::vector<QUrl>{QUrl(QLatin1String(CFrameApp::SupportAddress))});
+    }
+
     void SupportIsNotOpenedInEnglish()
     {
         CFrameApp app;

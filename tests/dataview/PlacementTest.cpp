@@ -377,6 +377,21 @@ private slots:
         QCOMPARE(Stored(app.Settings(), DisplaySection), QRect(1, 2, 700, 600));
     }
 
+    void SetupViewIsNotSavedMaximised()
+    {
+        CFrameApp app;
+        Store(app.SettingsFile(), SetupSection, {30, 40, 700, 500});
+        QVERIFY(app.Start({}));
+        app.Frame().move(90, 80);
+        app.Frame().setWindowState(Qt::WindowMaximized);
+        app.Frame().close();
+        QTRY_VERIFY(!app.Frame().isVisible());
+        const CSettings store(app.SettingsFile());
+        QCOMPARE(store.GetProfileRect(SetupSection, QStringLiteral("NormalPos"), {}),
+                 QRect(30, 40, 700, 500));
+        QCOMPARE(store.GetInt(SetupSection, QStringLiteral("ShowCmd"), 0), 1);
+    }
+
     void TitleMustBeSeenOnSomeScreen()
     {
         const std::array screens{QRect(0, 0, 1000, 800), QRect(1000, 0, 1000, 800)};

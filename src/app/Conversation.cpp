@@ -41,8 +41,13 @@ void CConversation::Settle()
     const CWaitCursor wait;
     QEventLoop loop;
     QEventLoop* const outer = std::exchange(m_loop, &loop);
-    while (IsUnderWay())
-        loop.exec(QEventLoop::ExcludeUserInputEvents);
+    while (IsUnderWay()) {
+        // Once the program is told to end no loop runs any more, while the work still has to be
+        // waited for.
+        constexpr int NotRun = -1;
+        if (loop.exec(QEventLoop::ExcludeUserInputEvents) == NotRun)
+            loop.processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
+    }
     m_loop = outer;
     // What the outer loop waits for may have ended inside of this one.
     if (outer != nullptr)

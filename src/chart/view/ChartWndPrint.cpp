@@ -5,7 +5,7 @@
 #include "chart/model/PagePlan.h"
 #include "chart/view/ChartPage.h"
 #include "chart/view/ChartPicture.h"
-#include "resources/StringTable.h"
+#include "chart/view/ChartSettings.h"
 
 #include <QPainter>
 
@@ -15,7 +15,6 @@ namespace skeldon {
 
 namespace {
 
-constexpr int PrintWeightDefault = 2;
 constexpr int HeaviestPrintWeight = 4;
 
 } // namespace
@@ -29,13 +28,9 @@ bool CChartWnd::PrintChart(QPainter& device, int width, int height) const
 {
     if (!m_model.IsCreated())
         return false;
-    const CSettings& settings = App().Settings();
-    const int weight = std::clamp(
-        settings.GetInt(SystemSection, QStringLiteral("PrintGraphPic"), PrintWeightDefault), 1,
-        HeaviestPrintWeight);
-    const QString title = settings.GetText(SystemSection, QStringLiteral("GraphTitle"),
-                                           Text(StringId::ChartTitleDefault));
-    const ChartPage page{QSize(width, height), ChartTitle(title, *m_model.m_data),
+    const ChartProperties properties = ReadChartProperties(App().Settings());
+    const int weight = std::clamp(properties.printWeight, 1, HeaviestPrintWeight);
+    const ChartPage page{QSize(width, height), ChartTitle(properties.title, *m_model.m_data),
                          PrintedLineWidth(weight, device.device()->logicalDpiX())};
     return PaintChartPage(device, page, m_model, m_colours, font());
 }

@@ -1,4 +1,4 @@
-#include "FrameApp.h"
+#include "MenuApp.h"
 
 #include "chart/view/ChartPropertyDialog.h"
 #include "chart/view/ChartWnd.h"
@@ -7,203 +7,43 @@
 #include "dataview/MeasuredList.h"
 #include "online/MonitorDialog.h"
 #include "online/OnlineDialog.h"
-#include "resources/Menus.h"
 
 #include <QClipboard>
 #include <QDir>
 #include <QImage>
-#include <QMenu>
-#include <QMenuBar>
 #include <QTest>
 #include <QTimer>
 
 #include <map>
-#include <set>
 
 using namespace skeldon;
 using namespace skeldon::test;
 
 namespace {
 
-using Commands = std::set<CommandId>;
+// The commands by when they can be given.
+const Commands Always{CommandId::Help, CommandId::OnlineSupport, CommandId::About,
+                      CommandId::Monitor};
+const Commands AtRest{
+    CommandId::Open,          CommandId::Configuration,   CommandId::Exit,
+    CommandId::ShowX,         CommandId::ShowY,           CommandId::ShowZ,
+    CommandId::ShowResultant, CommandId::ShowTemperature, CommandId::ShowHumidity,
+    CommandId::BarChart,      CommandId::ChartProperties, CommandId::OnlineConfiguration,
+    CommandId::UnitG,         CommandId::UnitMs2,         CommandId::UnitGal,
+    CommandId::ViewSetup};
+const Commands WithData{CommandId::SaveAs, CommandId::ExportCsv, CommandId::Print};
+const Commands WithRecorder{CommandId::GetData, CommandId::OnlineRecording};
+/// Just loaded, five lines that rise.
+const Commands OfChart{CommandId::HorizontalInflate, CommandId::VerticalInflate,
+                       CommandId::VerticalDeflate, CommandId::CopyChart};
 
-/// The actions from the bar down to the first entry that gives the command; empty without one.
-QList<QAction*> PathTo(const QList<QAction*>& actions, CommandId command)
+/// In English menus other commands' entries stand in the place of these.
+Commands OfJapanese(const CMenuApp& app)
 {
-    for (QAction* const action : actions) {
-        if (action->menu() != nullptr) {
-            const QList<QAction*> below = PathTo(action->menu()->actions(), command);
-            if (!below.isEmpty())
-                return QList<QAction*>{action} + below;
-        } else if (!action->isSeparator() && action->data().toInt() == static_cast<int>(command)) {
-            return {action};
-        }
-    }
-    return {};
+    if (!app.m_isJapanese)
+        return {};
+    return {CommandId::DisplayAllArea, CommandId::DisplayInCenter};
 }
-
-void Collect(const QList<QAction*>& actions, Commands& commands)
-{
-    for (const QAction* const action : actions) {
-        if (action->menu() != nullptr)
-            Collect(action->menu()->actions(), commands);
-        else if (!action->isSeparator())
-            commands.insert(static_cast<CommandId>(action->data().toInt()));
-    }
-}
-
-QString NamesOf(const Commands& commands)
-{
-    QStringList numbers;
-    for (const CommandId command : commands)
-        numbers << QString::number(static_cast<int>(command));
-    return numbers.join(u' ');
-}
-
-Commands operator+(Commands some, const Commands& more)
-{
-    some.insert(more.begin(), more.end());
-    return some;
-}
-
-Commands operator-(Commands some, const Commands& less)
-{
-    for (const CommandId command : less)
-        some.erase(command);
-    return some;
-}
-
-/// The program with the data view shown and the monitor allowed, worked by its menus.
-class CMenuApp : public CFrameApp
-{
-public:
-    explicit CMenuApp(const QString& language)
-        : CFrameApp(language)
-        , m_isJapanese(language == QLatin1String("Japanese"))
-    {
-        Settings().WriteInt(SystemSection, QStringLiteral("OnlineSecond"), 1);
-        QVERIFY(Start({QStringLiteral("-display"), QStringLiteral("-mon")}));
-    }
-
-    [[nodiscard]] QMenuBar& Bar() { return *Frame().MenuOf(ViewIndex::Display); }
-    /// Every command that an entry of the data view's menus gives.
-    [[nodiscard]] Commands InMenus()
-    {
-        Commands commands;
-        Collect(Bar().actions(), commands);
-        return commands;
-    }
-    /// Opens the menus down to the entry of a command, marks the entry and gives it.
-    QAction* GoTo(CommandId command)
-    {
-        const QList<QAction*> path = PathTo(Bar().actions(), command);
-        if (path.isEmpty())
-            return nullptr;
-        Bar().setActiveAction(path[0]);
-        for (int i = 1; i < path.size(); ++i) {
-            QMenu* const menu = path[i - 1]->menu();
-            if (!QTest::qWaitFor([menu] { return menu->isVisible(); }))
-                return nullptr;
-            if (i + 1 < path.size() || path[i]->isEnabled())
-                menu->setActiveAction(path[i]);
-        }
-        return path.back();
-    }
-    static void CloseMenus()
-    {
-        while (QWidget* const popup = QApplication::activePopupWidget())
-            popup->close();
-    }
-    /// Chooses the entry of a command as the keyboard would.
-    bool Choose(CommandId command)
-    {
-        const QAction* const entry = GoTo(command);
-        QWidget* const menu = QApplication::activePopupWidget();
-        if (entry == nullptr || menu == nullptr)
-            return false;
-        const bool isEnabled = entry->isEnabled();
-        if (isEnabled)
-            QTest::keyClick(menu, Qt::Key_Return);
-        else
-            QTest::mouseClick(
-                menu, Qt::LeftButton, {},
-                qobject_cast<QMenu*>(menu)->actionGeometry(const_cast<QAction*>(entry)).center());
-        CloseMenus();
-        QCoreApplication::processEvents();
-        return isEnabled;
-    }
-    /// What the menus allow now; every one of them is opened.
-    [[nodiscard]] Commands Allowed()
-    {
-        Commands allowed;
-        for (const CommandId command : InMenus()) {
-            const QAction* const entry = GoTo(command);
-            if (entry != nullptr && entry->isEnabled())
-                allowed.insert(command);
-            CloseMenus();
-        }
-        return allowed;
-    }
-    /// Whether the entry carries a tick.
-    [[nodiscard]] bool IsTicked(CommandId command)
-    {
-        const QAction* const entry = GoTo(command);
-        const bool isTicked = entry != nullptr && entry->isChecked();
-        CloseMenus();
-        return isTicked;
-    }
-
-    // The commands by when they can be given.
-
-    [[nodiscard]] Commands Always() const
-    {
-        using enum CommandId;
-        // English menus have entries of other commands in the place of these two.
-        return {Help, OnlineSupport, About, Monitor};
-    }
-    [[nodiscard]] static Commands AtRest()
-    {
-        using enum CommandId;
-        return {Open,
-                Configuration,
-                Exit,
-                OnlineConfiguration,
-                ShowX,
-                ShowY,
-                ShowZ,
-                ShowResultant,
-                ShowTemperature,
-                ShowHumidity,
-                BarChart,
-                ChartProperties,
-                UnitG,
-                UnitMs2,
-                UnitGal,
-                ViewSetup};
-    }
-    [[nodiscard]] static Commands WithData()
-    {
-        using enum CommandId;
-        return {SaveAs, ExportCsv, Print};
-    }
-    [[nodiscard]] static Commands WithRecorder()
-    {
-        return {CommandId::GetData, CommandId::OnlineRecording};
-    }
-    /// Just loaded, five lines that rise.
-    [[nodiscard]] static Commands OfChart()
-    {
-        using enum CommandId;
-        return {HorizontalInflate, VerticalInflate, VerticalDeflate, CopyChart};
-    }
-    /// What only Japanese menus have.
-    [[nodiscard]] Commands OfJapanese(const Commands& commands) const
-    {
-        return m_isJapanese ? commands : Commands();
-    }
-
-    const bool m_isJapanese;
-};
 
 /// All that can not be given by a menu, a button or a key.
 const Commands WithoutAction{
@@ -289,10 +129,8 @@ private slots:
         QFETCH(const QString, language);
         CMenuApp app(language);
         using enum CommandId;
-        const Commands all = app.Always() + CMenuApp::AtRest() + CMenuApp::WithData() +
-                             CMenuApp::WithRecorder() + CMenuApp::OfChart() +
-                             Commands{HorizontalDeflate} +
-                             app.OfJapanese({DisplayAllArea, DisplayInCenter});
+        const Commands all = Always + AtRest + WithData + WithRecorder + OfChart +
+                             Commands{HorizontalDeflate} + OfJapanese(app);
         QCOMPARE(NamesOf(app.InMenus()), NamesOf(all));
     }
 
@@ -304,29 +142,26 @@ private slots:
         CMenuApp app(language);
         using enum CommandId;
         // Nothing loaded: the scale is at its coarsest.
-        const Commands empty = app.Always() + CMenuApp::AtRest() + Commands{VerticalInflate};
+        const Commands empty = Always + AtRest + Commands{VerticalInflate};
         QCOMPARE(NamesOf(app.Allowed()), NamesOf(empty));
 
         app.PlugIn({"--lines", "0"});
         QVERIFY(app.Connect());
-        QCOMPARE(NamesOf(app.Allowed()), NamesOf(empty + CMenuApp::WithRecorder()));
+        QCOMPARE(NamesOf(app.Allowed()), NamesOf(empty + WithRecorder));
 
         app.TakeLines(5);
-        const Commands loaded = app.Always() + CMenuApp::AtRest() + CMenuApp::WithRecorder() +
-                                CMenuApp::WithData() + CMenuApp::OfChart();
+        const Commands loaded = Always + AtRest + WithRecorder + WithData + OfChart;
         QCOMPARE(NamesOf(app.Allowed()), NamesOf(loaded));
 
         QVERIFY(app.Choose(HorizontalInflate));
-        const Commands zoomed = loaded + Commands{HorizontalDeflate} +
-                                app.OfJapanese({DisplayAllArea, DisplayInCenter});
+        const Commands zoomed = loaded + Commands{HorizontalDeflate} + OfJapanese(app);
         QCOMPARE(NamesOf(app.Allowed()), NamesOf(zoomed));
 
         // An area is to be selected: what is left are the chart's own commands, whose corner
         // buttons work as well, and those of the window.
         app.View().Button(DataViewButton::ZoomIn).click();
         QVERIFY(app.View().Button(DataViewButton::ZoomIn).IsPressed());
-        const Commands armed =
-            app.Always() + Commands{CopyChart} + app.OfJapanese({DisplayAllArea, DisplayInCenter});
+        const Commands armed = Always + Commands{CopyChart} + OfJapanese(app);
         // "All area" and "in center" of English menus are other commands' entries.
         QCOMPARE(NamesOf(app.Allowed()), NamesOf(armed));
         app.View().OnCommand(SelectArea);
@@ -363,7 +198,7 @@ private slots:
                     Qt::QueuedConnection);
         };
         app.View().OnCommand(CommandId::SaveAs);
-        QCOMPARE(NamesOf(allowed), NamesOf(app.Always()));
+        QCOMPARE(NamesOf(allowed), NamesOf(Always));
         QVERIFY(!canClose);
         QVERIFY(app.View().Button(DataViewButton::Open).isEnabled());
     }

@@ -1,12 +1,17 @@
 // Works the program at random for a time, part by part: nothing may be lost, hang or grow.
+#include "Commands.h"
 #include "LinkDownloads.h"
+#include "Polls.h"
+#include "WindowDownloads.h"
 
 #include <CLI/CLI.hpp>
 #include <QApplication>
 #include <QTemporaryDir>
 
+#include <array>
 #include <iostream>
 #include <map>
+#include <random>
 
 using namespace skeldon::soak;
 
@@ -25,6 +30,9 @@ void LeaveHome(const QTemporaryDir& folder)
 
 const std::map<std::string, void (*)(const SoakOptions&)> Parts{
     {"link", &DownloadOverLink},
+    {"window", &DownloadThroughWindow},
+    {"poll", &LookForTheCable},
+    {"commands", &GiveCommands},
 };
 
 int RunParts(const std::vector<std::string>& parts, const SoakOptions& options)
@@ -72,6 +80,10 @@ int main(int argc, char** argv)
     }
     QTemporaryDir home;
     LeaveHome(home);
+    // One of the pixel ratios that screens have, by the seed as all else.
+    const std::array ratios{"1", "1.5", "2"};
+    if (!qEnvironmentVariableIsSet("QT_SCALE_FACTOR"))
+        qputenv("QT_SCALE_FACTOR", ratios[options.seed % ratios.size()]);
     int toolkitCount = 1;
     QApplication application(toolkitCount, argv);
     return RunParts(parts, options);

@@ -70,7 +70,7 @@ CSkinButton& CDisplayView::Button(DataViewButton button) const
 bool CDisplayView::CanOperate() const
 {
     return !Button(DataViewButton::ZoomIn).IsPressed() && !m_bBusy && !m_list->IsFilling() &&
-           m_chart->CanRedraw();
+           m_chart->IsFree();
 }
 
 bool CDisplayView::HasData() const
@@ -105,12 +105,13 @@ bool CDisplayView::CanZoomOut() const
 
 bool CDisplayView::CanScaleUp() const
 {
-    return CanOperate() && m_chart->Model().Step() < CValueScale::StepCount - 1;
+    return CanOperate() && m_chart->CanRedraw() &&
+           m_chart->Model().Step() < CValueScale::StepCount - 1;
 }
 
 bool CDisplayView::CanScaleDown() const
 {
-    return CanOperate() && m_chart->Model().Step() > 0;
+    return CanOperate() && m_chart->CanRedraw() && m_chart->Model().Step() > 0;
 }
 
 void CDisplayView::RefreshControls()

@@ -31,7 +31,7 @@ CommandState CDisplayView::StateOf(CommandId command) const
 {
     CommandState state = StateAtRest(command);
     // In the middle of an operation, and while an area is dragged out, nothing at all can be done.
-    if (m_bBusy || !m_chart->CanRedraw())
+    if (m_bBusy || !m_chart->IsFree())
         state.isEnabled = false;
     return state;
 }
@@ -67,7 +67,7 @@ CommandState CDisplayView::StateAtRest(CommandId command) const
     case CommandId::HorizontalDeflate:
         return {CanZoomOut()};
     case CommandId::BarChart:
-        return {CanOperate(), m_chart->Model().m_barChart};
+        return {CanOperate() && m_chart->CanRedraw(), m_chart->Model().m_barChart};
     case CommandId::VerticalInflate:
         return {CanScaleUp()};
     case CommandId::VerticalDeflate:

@@ -79,7 +79,7 @@ void CDisplayView::ReadChartSettings()
                 Button(form.button).SetSwatchColour(colour);
         }
     }
-    m_chart->SetColours(colours);
+    m_chart->SetColors(colours);
     m_chart->SetLineWeight(properties.screenWeight);
     m_chart->SetElapsedAxis(properties.isElapsed);
 }

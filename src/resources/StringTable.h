@@ -483,6 +483,15 @@ enum class StringId
     NameBarButton,
     NameElapsed,
     NameTotal,
+    ValueScaleStep,
+    ValueNoLine,
+    ValueLineAt,
+    ValueOfSeries,
+    ValueInG,
+    ValueInMs2,
+    ValueInGal,
+    ValueInDegrees,
+    ValueInPercent,
     OnlineWaiting,
 
     // Wizard and print dialog: what the system's own dialogs would bring.

@@ -341,6 +341,25 @@ private slots:
         }
     }
 
+    void WithoutMemoryForAChartTheRestWorksOn()
+    {
+        CViewApp app;
+        app.Show();
+        app.OpenLines(20);
+        app.View().Chart().resize(2'000'000, 2'000);
+        QVERIFY(app.Prompts().Boxes().contains("A chart can't be used by shortage of memory."));
+        Check(app, Always + WithData);
+        for (const CommandId command :
+             {CommandId::BarChart, CommandId::DisplayAllArea, CommandId::DisplayInCenter,
+              CommandId::VerticalInflate, CommandId::VerticalDeflate, CommandId::CopyChart})
+            QVERIFY(!app.Can(command));
+        app.OpenLines(5);
+        QCOMPARE(app.View().Data().GetSize(), std::size_t{5});
+        app.View().OnCommand(CommandId::UnitGal);
+        app.List().SetCurrentRow(3);
+        QVERIFY(!app.Picture().isNull());
+    }
+
     void SeriesAreToggledByTheirButtons()
     {
         CViewApp app;

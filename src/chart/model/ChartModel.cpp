@@ -48,6 +48,18 @@ void CChartModel::Create(const CMeasureData& data, Measure measure)
     IndexLines();
 }
 
+void CChartModel::Close()
+{
+    m_data = nullptr;
+    m_index.Clear();
+    m_history.Clear();
+    m_drawn = {};
+    m_currentLine = -1;
+    m_cursorX = 0;
+    m_hasRisingTime = false;
+    m_work = ChartWork::None;
+}
+
 bool CChartModel::CanRedraw() const
 {
     return IsCreated() && !m_busy && !m_isDragging;
@@ -379,16 +391,6 @@ int CChartModel::PlotBitmapWidth() const
 ChartRect CChartModel::PlotRect() const
 {
     return {m_window.m_plotLeft, CValueScale::PlotTop, m_window.m_plotRight, m_scale.m_plotBottom};
-}
-
-ChartRect CChartModel::PlotInWindow() const
-{
-    const ChartRect plot = PlotRect();
-    const int room = ContentRoom();
-    if (room > m_scale.m_contentHeight)
-        return plot;
-    return {plot.left, std::max(0, plot.top - m_scale.m_scrollY), plot.right,
-            std::min(plot.bottom - m_scale.m_scrollY, room - 1)};
 }
 
 ChartSizes CChartModel::Sizes() const

@@ -54,6 +54,9 @@ public:
     /// Ties the chart to a data set, which must outlive it, and makes it usable.
     void Create(const CMeasureData& data, Measure measure);
 
+    /// Takes the chart away: it is as it was before `Create`.
+    void Close();
+
     // --- what holds now ---
 
     [[nodiscard]] bool IsCreated() const { return m_data != nullptr; }
@@ -106,8 +109,6 @@ public:
     [[nodiscard]] int ContentRoom() const;
     [[nodiscard]] int PlotBitmapWidth() const;
     [[nodiscard]] ChartRect PlotRect() const;
-    /// The plot in rows of the window, columns of the content.
-    [[nodiscard]] ChartRect PlotInWindow() const;
     [[nodiscard]] WalkView View(double scaleX, double scaleY) const;
     /// Series that are shown and that the data set carries.
     [[nodiscard]] SeriesFlags DrawnSeries() const;

@@ -108,6 +108,14 @@ bool CGaugeTrack::Release(int y)
     return false;
 }
 
+bool CGaugeTrack::ChooseStep(unsigned step)
+{
+    if (m_dragging)
+        return false;
+    Choose(std::min(step, std::max(m_tickCount, 1U) - 1));
+    return true;
+}
+
 void CGaugeTrack::Choose(unsigned step)
 {
     m_previousStep = m_step;

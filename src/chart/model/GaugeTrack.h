@@ -30,6 +30,8 @@ public:
     bool Press(int x, int y);
     /// A move of the pointer. True if it moves the thumb.
     bool Move(int y);
+    /// Takes a step that is not chosen with the mouse. False while the thumb is dragged.
+    bool ChooseStep(unsigned step);
     /// A release of the left button: ends a drag, or takes the tick that was clicked. True if a
     /// step was chosen, the present one included; then `m_step` is new and `m_previousStep` is
     /// what it was before.

@@ -195,8 +195,8 @@ bool CChartPainter::IsMuch(const ChartRect& area) const
 void CChartPainter::PaintGrid()
 {
     const ChartSizes sizes = m_model.Sizes();
-    for (const ValueTick& tick : ValueTicks(m_model.m_scale, sizes.clientHeight, m_model.m_unit))
-        m_raster.Fill(Device(PlaceValueTick(sizes, tick.row).gridLine), ToPixel(ChartColour::Grid));
+    for (const ValueGridLine& line : ValueGrid(m_model.m_scale, sizes.clientHeight))
+        m_raster.Fill(Device(PlaceValueTick(sizes, line.row).gridLine), ToPixel(ChartColour::Grid));
     for (const TimeTick& tick : m_model.Ticks())
         m_raster.Fill(Device(TimeGridLine(sizes, tick.column)), ToPixel(ChartColour::Grid));
 }

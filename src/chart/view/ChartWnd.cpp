@@ -2,6 +2,7 @@
 
 #include "app/SkeldonApp.h"
 #include "app/WaitCursor.h"
+#include "chart/view/ChartWords.h"
 #include "chart/view/ScaleGauge.h"
 #include "resources/StringTable.h"
 
@@ -10,7 +11,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <new>
 
 namespace skeldon {
 
@@ -27,15 +27,32 @@ int GrownTo(int pixels)
     return (pixels + LayerStep - 1) / LayerStep * LayerStep;
 }
 
-/// Makes the layer at least so large; its contents are lost where it grows.
+/// Makes the layer at least so large; its contents are lost where it grows. False if memory does
+/// not allow it.
 bool Fit(QImage& layer, int width, int height)
 {
+    constexpr std::int64_t LargestLayer = std::int64_t{1} << 29; // pixels; no screen needs more
     if (layer.width() >= width && layer.height() >= height)
         return true;
-    layer = QImage(GrownTo(std::max(width, layer.width())),
-                   GrownTo(std::max(height, layer.height())), QImage::Format_RGB32);
+    const int wide = GrownTo(std::max(width, layer.width()));
+    const int high = GrownTo(std::max(height, layer.height()));
+    layer = {};
+    if (std::int64_t{wide} * high <= LargestLayer)
+        layer = QImage(wide, high, QImage::Format_RGB32);
+    if (layer.isNull())
+        return false;
     layer.fill(Qt::white);
-    return !layer.isNull();
+    return true;
+}
+
+/// Only what changes: a scroll bar paints itself anew at every setting.
+void Show(QScrollBar& bar, const ScrollBarState& state)
+{
+    bar.setEnabled(state.isEnabled);
+    bar.setRange(0, std::max(0, state.maximum - state.page));
+    if (const int page = std::max(state.page, 1); bar.pageStep() != page)
+        bar.setPageStep(page);
+    bar.setValue(state.position);
 }
 
 } // namespace
@@ -52,8 +69,10 @@ CChartWnd::CChartWnd(QWidget* parent)
     setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setContextMenuPolicy(Qt::NoContextMenu);
+    setAccessibleName(Text(StringId::NameChart));
     for (QScrollBar* const bar : {m_vertScroll, m_horzScroll}) {
         bar->setFocusPolicy(Qt::NoFocus);
+        bar->setSingleStep(ScrollStep(false));
         connect(bar, &QScrollBar::actionTriggered, this,
                 [this, bar](int action) { OnScroll(*bar, action); });
     }
@@ -117,62 +136,83 @@ void CChartWnd::changeEvent(QEvent* event)
     CarryOut();
 }
 
-void CChartWnd::FitLayers()
+bool CChartWnd::FitLayers()
 {
     const double ratio = devicePixelRatioF();
     const auto device = [ratio](int pixels) { return static_cast<int>(std::ceil(pixels * ratio)); };
     const int wide = device(std::max(width(), 1));
-    const int high = device(std::max(height(), 1));
-    if (!Fit(m_chartBitmap, wide, high) ||
-        !Fit(m_timeBitmap, wide, device(std::max(TimeStripHeight, m_model.m_timeStripHeight))))
-        throw std::bad_alloc();
+    return Fit(m_chartBitmap, wide, device(std::max(height(), 1))) &&
+           Fit(m_timeBitmap, wide, device(std::max(TimeStripHeight, m_model.m_timeStripHeight)));
+}
+
+/// A chart that can not be drawn is not there at all; the rest of the data view goes on.
+void CChartWnd::GiveUp()
+{
+    m_model.Close();
+    m_isPainted = false;
+    m_isGivenUp = true;
+    m_chartBitmap = {};
+    m_timeBitmap = {};
+    update();
+    App().Prompts().ShowBox(this, BoxKind::Warning, Text(StringId::ChartNoMemory));
 }
 
 void CChartWnd::CarryOut()
 {
-    const ChartWork work = std::exchange(m_model.m_work, ChartWork::None);
+    ChartWork work = std::exchange(m_model.m_work, ChartWork::None);
     if (work == ChartWork::None || !m_model.IsCreated() || width() < 1 || height() < 1)
         return;
-    UpdateScrollBars();
-    FitLayers();
-    m_painter->SetScale(devicePixelRatioF(), devicePixelRatioF());
+    Show(*m_vertScroll, m_model.VertScroll());
+    Show(*m_horzScroll, m_model.HorzScroll());
+    if (!FitLayers()) {
+        GiveUp();
+        return;
+    }
+    if (m_layerRatio != devicePixelRatioF())
+        work = ChartWork::Chart;
+    TellWork(work);
+    m_gauge->ShowStep();
+    update(PaintedRegion());
+}
+
+/// Paints the layers and says so where that may take its time.
+void CChartWnd::TellWork(ChartWork work)
+{
+    if (work != ChartWork::Chart || m_model.Count() < 1) {
+        PaintLayers(work);
+        return;
+    }
+    const CWaitCursor wait;
+    SetStatusText(Text(StringId::MakingChart));
     PaintLayers(work);
-    m_isPainted = true;
-    m_gauge->update();
-    update();
+    ResetStatus();
 }
 
 void CChartWnd::PaintLayers(ChartWork work)
 {
+    m_layerRatio = devicePixelRatioF();
+    m_painter->SetScale(m_layerRatio, m_layerRatio);
     if (work == ChartWork::Chart) {
-        const bool hasCurves = m_model.Count() >= 1;
-        const CWaitCursor wait;
-        if (hasCurves)
-            SetStatusText(Text(StringId::MakingChart));
         m_painter->PaintChart(m_chartBitmap);
         m_painter->PaintTimeStrip(m_timeBitmap, 0);
-        if (hasCurves)
-            ResetStatus();
     } else if (work == ChartWork::EqualRun) {
         m_painter->PaintEqualRun(m_chartBitmap);
     }
+    m_isPainted = true;
 }
 
-void CChartWnd::UpdateScrollBars()
+/// All but gauge and scroll bars, which know themselves when to paint.
+QRegion CChartWnd::PaintedRegion() const
 {
-    const auto show = [](QScrollBar& bar, const ScrollBarState& state) {
-        bar.setEnabled(state.isEnabled);
-        bar.setRange(0, std::max(0, state.maximum - state.page));
-        bar.setPageStep(std::max(state.page, 1));
-        bar.setSingleStep(ScrollStep(false));
-        bar.setValue(state.position);
-    };
-    show(*m_vertScroll, m_model.VertScroll());
-    show(*m_horzScroll, m_model.HorzScroll());
+    return QRegion(rect()) - m_gauge->geometry() - m_vertScroll->geometry() -
+           m_horzScroll->geometry();
 }
 
 void CChartWnd::paintEvent(QPaintEvent* /*event*/)
 {
+    // The window may have come to a screen of another pixel ratio.
+    if (m_isPainted && m_layerRatio != devicePixelRatioF() && FitLayers())
+        PaintLayers(ChartWork::Chart);
     QPainter painter(this);
     if (m_isPainted)
         PaintPicture(painter);
@@ -216,10 +256,21 @@ void CChartWnd::PaintCorners(QPainter& painter) const
     paint(BarButtonFills(BarButtonRect(sizes), m_model.m_barChart, face));
 }
 
+QAccessible::Role CChartWnd::AccessibleRole() const
+{
+    return QAccessible::Chart;
+}
+
+QString CChartWnd::AccessibleValue() const
+{
+    return CurrentLineWords(m_model);
+}
+
 void CChartWnd::ResetData()
 {
     m_model.ResetData();
     CarryOut();
+    AnnounceValue(this);
 }
 
 void CChartWnd::DisplayAllArea()
@@ -260,7 +311,7 @@ void CChartWnd::SetSeriesShown(std::uint16_t mask, bool shown)
     CarryOut();
 }
 
-void CChartWnd::SetColours(const ChartColours& colours)
+void CChartWnd::SetColors(const ChartColours& colours)
 {
     m_colours = colours;
     m_model.m_work = ChartWork::Chart;

@@ -3,9 +3,11 @@
 #include "app/MeasureGraph.h"
 #include "chart/model/ChartModel.h"
 #include "chart/view/ChartPainter.h"
+#include "controls/AccessibleFace.h"
 #include "resources/Commands.h"
 
 #include <QImage>
+#include <QRegion>
 #include <QScrollBar>
 #include <QWidget>
 
@@ -23,7 +25,7 @@ class CChartScaleGauge;
 ///
 /// The picture lies in two layers: value axis, grid and curves; and the time strip. A paint event
 /// puts them together and adds what moves with the mouse.
-class CChartWnd : public QWidget
+class CChartWnd : public QWidget, public CAccessibleFace
 {
     Q_OBJECT
 
@@ -36,6 +38,9 @@ public:
     /// What is shown, and how.
     [[nodiscard]] const CChartModel& Model() const { return m_model; }
     [[nodiscard]] bool CanRedraw() const { return m_model.CanRedraw(); }
+    /// Whether nothing is under way in the chart. One that memory did not allow is in nobody's way,
+    /// but can not be redrawn either.
+    [[nodiscard]] bool IsFree() const { return m_isGivenUp || CanRedraw(); }
     /// The line under the pointer at the last right click, -1 for none.
     [[nodiscard]] int PopupLine() const { return m_popupLine; }
 
@@ -46,7 +51,7 @@ public:
     bool ZoomInTime();
     bool ZoomBack();
     void SetSeriesShown(std::uint16_t mask, bool shown);
-    void SetColours(const ChartColours& colours);
+    void SetColors(const ChartColours& colours);
     void SetLineWeight(int weight);
     void SetElapsedAxis(bool elapsed);
     void SetBarChart(bool barChart);
@@ -66,6 +71,10 @@ public:
     /// large. False if memory does not allow it.
     [[nodiscard]] bool PrintChart(QPainter& device, int width, int height) const;
 
+    [[nodiscard]] QAccessible::Role AccessibleRole() const override;
+    /// The current line in words.
+    [[nodiscard]] QString AccessibleValue() const override;
+
     /// What the list and the gauge have to say.
     void OnMeasureGraph(MeasureGraphCode code, int argument);
 
@@ -75,6 +84,7 @@ signals:
     void CommandChosen(skeldon::CommandId command);
 
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
@@ -96,16 +106,19 @@ private:
     // Painting.
     [[nodiscard]] ChartMetrics Metrics() const;
     void PlaceChildren();
-    void FitLayers();
+    [[nodiscard]] bool FitLayers();
+    void GiveUp();
     void CarryOut();
+    void TellWork(ChartWork work);
     void PaintLayers(ChartWork work);
-    void UpdateScrollBars();
+    [[nodiscard]] QRegion PaintedRegion() const;
     void PaintPicture(QPainter& painter);
     void ComposeView(QPainter& painter);
     void PaintCorners(QPainter& painter) const;
     [[nodiscard]] ChartRect PlotHit() const;
 
     // The user.
+    [[nodiscard]] QString CornerName(QPoint point) const;
     bool PressCorner(QPoint point);
     void PressPlot(QPoint point);
     void RightPress(QPoint point, QPoint global);
@@ -124,7 +137,9 @@ private:
     QScrollBar* m_horzScroll;
     QImage m_chartBitmap;
     QImage m_timeBitmap;
-    bool m_isPainted = false; ///< the layers hold a picture
+    double m_layerRatio = 1.0; ///< device pixels of the layers per logical pixel
+    bool m_isPainted = false;  ///< the layers hold a picture
+    bool m_isGivenUp = false;
     MouseState m_mouseState = MouseState::Idle;
     int m_dragStartX = 0;
     int m_dragX = 0;

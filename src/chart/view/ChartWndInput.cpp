@@ -4,11 +4,14 @@
 #include "chart/view/ScaleGauge.h"
 #include "controls/PictureCursor.h"
 #include "resources/Menus.h"
+#include "resources/StringTable.h"
 
 #include <QAction>
 #include <QGuiApplication>
+#include <QHelpEvent>
 #include <QMenu>
 #include <QMouseEvent>
+#include <QToolTip>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -98,6 +101,29 @@ void CChartWnd::mousePressEvent(QMouseEvent* event)
         if (!PressCorner(point))
             PressPlot(point);
     }
+}
+
+/// What the corner button at a point does; empty off the buttons.
+QString CChartWnd::CornerName(QPoint point) const
+{
+    const ChartSizes sizes = m_model.Sizes();
+    const auto isIn = [point](const ChartRect& rect) {
+        return rect.Contains(point.x(), point.y());
+    };
+    if (isIn(CenterButtonRect(sizes)))
+        return Text(StringId::NameCenterButton);
+    if (isIn(AllAreaButtonRect(sizes)))
+        return Text(StringId::NameAllAreaButton);
+    return isIn(BarButtonRect(sizes)) ? Text(StringId::NameBarButton) : QString();
+}
+
+bool CChartWnd::event(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QWidget::event(event);
+    const auto* const help = static_cast<QHelpEvent*>(event);
+    QToolTip::showText(help->globalPos(), CornerName(help->pos()), this);
+    return true;
 }
 
 bool CChartWnd::PressCorner(QPoint point)
@@ -253,7 +279,10 @@ void CChartWnd::OnMeasureGraph(MeasureGraphCode code, int argument)
         break;
     case MeasureGraphCode::CurrentLine: {
         const bool isMouse = m_model.m_lineFromMouse;
+        const int before = m_model.m_currentLine;
         m_model.FollowLine(argument);
+        if (m_model.m_currentLine != before)
+            AnnounceValue(this);
         if (isMouse && !m_model.m_lineFromMouse)
             emit MeasureGraph(MeasureGraphCode::LineTaken, argument);
         break;

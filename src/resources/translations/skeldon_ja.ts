@@ -2200,6 +2200,51 @@ Failed to write.
         <translation>合計秒数</translation>
     </message>
     <message>
+        <source>step %d of %d</source>
+        <comment>ValueScaleStep</comment>
+        <translation>%d段階目（全%d段階）</translation>
+    </message>
+    <message>
+        <source>no current line</source>
+        <comment>ValueNoLine</comment>
+        <translation>現在行なし</translation>
+    </message>
+    <message>
+        <source>line %d, %s</source>
+        <comment>ValueLineAt</comment>
+        <translation>%d行目、%s</translation>
+    </message>
+    <message>
+        <source>, %s %s</source>
+        <comment>ValueOfSeries</comment>
+        <translation>、%s %s</translation>
+    </message>
+    <message>
+        <source>%.3f G</source>
+        <comment>ValueInG</comment>
+        <translation>%.3f G</translation>
+    </message>
+    <message>
+        <source>%.4f m/s^2</source>
+        <comment>ValueInMs2</comment>
+        <translation>%.4f m/s^2</translation>
+    </message>
+    <message>
+        <source>%.2f Gal</source>
+        <comment>ValueInGal</comment>
+        <translation>%.2f Gal</translation>
+    </message>
+    <message>
+        <source>%.1f C</source>
+        <comment>ValueInDegrees</comment>
+        <translation>%.1f ℃</translation>
+    </message>
+    <message>
+        <source>%d %%</source>
+        <comment>ValueInPercent</comment>
+        <translation>%d %%</translation>
+    </message>
+    <message>
         <source>Waiting for KORVA...</source>
         <comment>OnlineWaiting</comment>
         <translation>KORVAを待っています...</translation>

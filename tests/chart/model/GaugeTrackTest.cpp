@@ -138,5 +138,21 @@ TEST(GaugeTrack, IgnoresAMoveWithoutADrag)
     EXPECT_EQ(track.ThumbRow(), 202);
 }
 
+TEST(GaugeTrack, TakesAStepFromTheKeyboardUnlessItIsDragged)
+{
+    CGaugeTrack track;
+    track.SetTickCount(9);
+    track.SetHeight(228);
+    track.SetStep(3);
+    EXPECT_TRUE(track.ChooseStep(5));
+    EXPECT_EQ(track.m_step, 5U);
+    EXPECT_EQ(track.m_previousStep, 3U);
+    EXPECT_TRUE(track.ChooseStep(20));
+    EXPECT_EQ(track.m_step, 8U);
+    ASSERT_TRUE(track.Press(8, track.RowOfStep(8) + 3));
+    EXPECT_FALSE(track.ChooseStep(0));
+    EXPECT_EQ(track.m_step, 8U);
+}
+
 } // namespace
 } // namespace skeldon

@@ -212,7 +212,7 @@ private slots:
 
         ChartColours colours;
         colours.item = 0x0102FD;
-        app.Chart().SetColours(colours);
+        app.Chart().SetColors(colours);
         QCOMPARE(app.Picture().pixelColor(column, 200), QColor(0xFD, 0x02, 0x01));
     }
 
@@ -356,6 +356,35 @@ private slots:
         app.Chart().OnMeasureGraph(MeasureGraphCode::CurrentLine, 3);
         QVERIFY(!app.Picture().isNull());
         QVERIFY(statuses.isEmpty());
+    }
+
+    void AChartThatMemoryDoesNotAllowIsNotThere()
+    {
+        CTestApp test;
+        const CMeasureData data = ChartData(SecondLines(20, Level));
+        CChartWnd chart;
+        chart.resize(2'000'000, 2'000);
+        chart.Create(data);
+        QCOMPARE(test.m_prompts->Boxes(),
+                 QStringList{"A chart can't be used by shortage of memory."});
+        QVERIFY(chart.IsFree());
+        QVERIFY(!chart.CanRedraw());
+        // Nothing of what follows finds a chart, and the message comes once.
+        chart.ResetData();
+        chart.SetBarChart(true);
+        chart.SetLineWeight(2);
+        chart.ChangeScaleStep(3);
+        chart.DisplayInCenter();
+        chart.OnMeasureGraph(MeasureGraphCode::CurrentLine, 3);
+        chart.OnMeasureGraph(MeasureGraphCode::Refresh, 0);
+        chart.OnMeasureGraph(MeasureGraphCode::Marks, 0);
+        QVERIFY(!chart.ZoomInTime());
+        QVERIFY(!chart.ZoomBack());
+        QVERIFY(!chart.Model().CanDisplayInCenter());
+        QVERIFY(!chart.Model().CanDisplayAllArea());
+        QVERIFY(!chart.Model().HasRisingTime());
+        QCOMPARE(chart.Model().Count(), 0);
+        QCOMPARE(test.m_prompts->Boxes().size(), 1);
     }
 
     void AMillionLinesAreOnePicture()

@@ -1,3 +1,4 @@
+# shellcheck shell=bash disable=SC2034,SC2120 # names and arguments for the tests
 # What the whole-program tests share: a home of its own, a virtual display of its own, a recorder without
 # hardware, the window, and waiting for what is to come. A test sources it; ctest sets PROGRAMS, the
 # folder of the built programs, and KEPT, a folder for the picture of a failure. Nothing is waited for
@@ -225,19 +226,19 @@ click() { # window, x, y, button
 
 # Presses again until the sign comes: a window that is being made or just lost its dialog drops keys.
 press_until() { # what, keys, command
-  local what=$1 keys=$2 end=$((SECONDS + WAIT_S)) round
+  local what=$1 keys=$2 end=$((SECONDS + WAIT_S))
   shift 2
   until "$@"; do
     [ "$SECONDS" -lt "$end" ] || fail "$what did not come"
     # shellcheck disable=SC2086 # several keys
     press "$main" $keys
-    for round in 1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 19 20; do
+    for _ in $(seq 20); do
       ! "$@" || return 0
       sleep 0.1
     done
   done
 }
-another_dialog() { find_dialog && [ "$dialog" != "$printing" ]; }
+dialog_after() { find_dialog && [ "$dialog" != "$1" ]; }
 leave_dialog() { # keys
   press "$dialog" "$@"
   wait_for "the end of the dialog" no_dialog
@@ -264,3 +265,23 @@ save_dialog() { # keys, file: writes the name into the file dialog that they ope
   leave_dialog Return
   wait_for "the file $2" test -s "$2"
 }
+
+is_pdf() { [ "$(tail -c 6 "$1" 2>/dev/null | tr -d '\n')" = %%EOF ]; }
+
+# The wire's trace since a mark: whether there is talk, or some of the live stream.
+mark_wire() { wire_mark=$(wc -c <"$work/wire"); }
+is_talking() { [ "$(wc -c <"$work/wire")" -gt "$wire_mark" ]; }
+is_streaming() { [ "$(wc -c <"$work/wire")" -gt $((wire_mark + 3000)) ]; }
+# A fault pulled the cable.
+cable_went() {
+  local answer
+  read -r -t "$WAIT_S" -u 7 answer || fail "the cable was not pulled"
+  same "the recorder's word" pulled "$answer"
+  hide_adapter
+}
+# Until there is no box that tells of the failure, and the sign is there.
+dismissed_and() {
+  ! find_dialog || press "$dialog" Return
+  no_dialog && "$@"
+}
+ended_with_data() { dismissed_and has_unsaved; }

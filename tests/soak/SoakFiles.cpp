@@ -1,5 +1,6 @@
 #include "SoakFiles.h"
 
+#include "VirtualRecorder.h"
 #include "files/DataFile.h"
 #include "files/StringOutput.h"
 
@@ -35,6 +36,15 @@ CMeasureData AnyLines(int count, CRandom& random)
             ms -= 3'600'000; // a break of the time line
     }
     return data;
+}
+
+std::string TextOf(const CMeasureData& data)
+{
+    constexpr CalendarSeconds SaveTime = 0;
+    test::CStringOutput text;
+    if (FormatDataFile(data, SaveTime, text))
+        throw std::runtime_error("a text could not be made");
+    return text.m_text;
 }
 
 /// Where two texts part, with some of both.
@@ -89,16 +99,18 @@ QString CSoakFiles::Path(const char* name) const
 
 std::string DifferenceTo(const CMeasureData& held, const QString& path)
 {
-    constexpr CalendarSeconds SaveTime = 0;
     CMeasureData read;
     if (const DataFileResult result = ReadFile(read, path.toStdString()); !result)
         return DescribeDataFileError(result);
-    test::CStringOutput heldText;
-    test::CStringOutput readText;
-    if (FormatDataFile(held, SaveTime, heldText) || FormatDataFile(read, SaveTime, readText))
-        return "a text could not be made";
-    return heldText.m_text == readText.m_text ? std::string()
-                                              : Parting(heldText.m_text, readText.m_text);
+    // A hazard level of 0 has no element, and without one it is unknown.
+    if (held.m_hazard == 0 && read.m_hazard == CMeasureData::Unknown)
+        read.m_hazard = 0;
+    const std::string heldText = TextOf(held);
+    // A file keeps its flags as they were before it was opened; opening it analyses the lines.
+    const bool isSame = TextOf(read) == heldText;
+    if (!isSame)
+        read.Analyse({.now = CVirtualClock::Start});
+    return isSame || TextOf(read) == heldText ? std::string() : Parting(heldText, TextOf(read));
 }
 
 } // namespace skeldon::soak

@@ -178,9 +178,11 @@ void CVirtualRecorder::WaitForBytes()
 {
     const std::int64_t end = m_clock.m_ms + SerialSetting::ReadWaitMs;
     m_recorder->Advance(m_clock.m_ms);
-    while (m_recorder->Output().empty() && m_clock.m_ms < end) {
+    // The clock also moves when the other thread waits.
+    for (std::int64_t now = m_clock.m_ms; m_recorder->Output().empty() && now < end;
+         now = m_clock.m_ms) {
         const std::int64_t next = m_recorder->NextMs().value_or(end);
-        m_clock.m_ms = std::clamp(next, m_clock.m_ms + 1, end);
+        m_clock.m_ms = std::min(std::max(next, now + 1), end);
         m_recorder->Advance(m_clock.m_ms);
     }
 }

@@ -188,13 +188,15 @@ private:
         m_recorder.SetFaults({});
         m_recorder.Plug();
         m_soak.Check(m_link.FindRecorderPort(), "the cable is not found");
-        constexpr int MostLooks = 3; // a report without end is still in the line at the first
+        // Of a report without end there is still a piece in the line, which may be taken for the
+        // beginning of the next.
+        constexpr int MostLooks = 3;
         int looks = 1;
-        while (!(m_link.OpenPort() && m_link.ReadStatus()))
-            m_soak.Check(++looks <= MostLooks, "a sound recorder does not answer");
-        m_soak.Check(m_link.m_count == m_count, "the recorder tells " +
-                                                    std::to_string(m_link.m_count) + " lines of " +
-                                                    std::to_string(m_count));
+        while (!(m_link.OpenPort() && m_link.ReadStatus() && m_link.m_count == m_count))
+            m_soak.Check(++looks <= MostLooks,
+                         "a sound recorder is not heard; the last look told " +
+                             std::to_string(m_link.m_count) + " lines of " +
+                             std::to_string(m_count));
         m_soak.Check(!m_link.IsOpen(), "the port stays open");
     }
 

@@ -13,8 +13,6 @@ constexpr int FollowTolerance = 1;
 // Between the edge of the picture and the plot beside its labels.
 constexpr int LeftMargin = 38;
 constexpr int RightMargin = 6;
-/// Below the longest label of the time strip.
-constexpr int StripMargin = 8;
 
 /// Says for as long as it lives that the chart is being rebuilt.
 class CBusy
@@ -41,10 +39,10 @@ CChartModel::CChartModel()
     m_gauge.SetTickCount(CValueScale::StepCount);
 }
 
-void CChartModel::Create(const CMeasureData& data, Measure measure)
+void CChartModel::Create(const CMeasureData& data, CTimeStrip::Measure measure)
 {
     m_data = &data;
-    m_measure = std::move(measure);
+    m_strip.Create(std::move(measure));
     IndexLines();
 }
 
@@ -301,11 +299,10 @@ void CChartModel::ScrollVertically(ScrollRequest request, int tracked, bool isCt
 
 void CChartModel::ScrollHorizontally(ScrollRequest request, int tracked, bool isCtrlDown)
 {
-    if (!IsCreated())
+    if (!IsCreated() || !HorzScroll().isEnabled)
         return;
-    const CChartRange window = m_window.Scrolled(request, tracked, isCtrlDown);
-    if (window.start != m_window.m_viewStart)
-        SetWindow(window);
+    if (const auto window = m_window.Scrolled(request, tracked, isCtrlDown))
+        SetWindow(*window);
 }
 
 void CChartModel::FollowLine(int line)
@@ -342,21 +339,12 @@ void CChartModel::TakeCurrentLine(int line, bool fromMouse)
 void CChartModel::HorizontalScale()
 {
     const int margin = m_metrics.labelHeight + m_metrics.labelWidth + LeftMargin;
-    m_timeStripHeight = 0;
     m_window.SetPlot(margin, PlotBitmapWidth() - margin - m_metrics.labelWidth - RightMargin);
     m_drawn = DrawnLines(m_index, m_window);
-    if (Count() < 1) {
-        m_ticks = {};
-        return;
-    }
-    m_ticks = PlanTimeTicks(m_window.m_paddedStart, m_window.m_paddedEnd, ElapsedFrom());
-    MeasureStrip();
-}
-
-void CChartModel::MeasureStrip()
-{
-    for (const TimeLabel& label : Labels())
-        m_timeStripHeight = std::max(m_timeStripHeight, m_measure(label.text) + StripMargin);
+    if (Count() < 1)
+        m_strip.Clear();
+    else
+        m_strip.Plan(m_window, ElapsedFrom(), m_metrics.labelHeight);
 }
 
 void CChartModel::VerticalExtent()
@@ -380,7 +368,7 @@ void CChartModel::NeedWork(ChartWork work)
 
 int CChartModel::ContentRoom() const
 {
-    return m_metrics.clientHeight - m_metrics.horzScrollHeight - m_timeStripHeight;
+    return m_metrics.clientHeight - m_metrics.horzScrollHeight - m_strip.m_timeStripHeight;
 }
 
 int CChartModel::PlotBitmapWidth() const
@@ -400,7 +388,7 @@ ChartSizes CChartModel::Sizes() const
             m_metrics.gaugeWidth,
             m_metrics.vertScrollWidth,
             m_metrics.horzScrollHeight,
-            m_timeStripHeight,
+            m_strip.m_timeStripHeight,
             m_metrics.labelWidth,
             m_metrics.labelHeight,
             m_scale.m_contentHeight,
@@ -437,16 +425,6 @@ std::optional<std::int64_t> CChartModel::ElapsedFrom() const
     return m_index.Time(0);
 }
 
-std::vector<TimeTick> CChartModel::Ticks() const
-{
-    return VisibleTicks(m_ticks, m_window);
-}
-
-std::vector<TimeLabel> CChartModel::Labels() const
-{
-    return TimeLabels(Ticks(), m_ticks, ElapsedFrom(), m_metrics.labelHeight);
-}
-
 ScrollBarState CChartModel::HorzScroll() const
 {
     return m_window.HorzScroll(Count() >= 1);
@@ -463,18 +441,7 @@ std::optional<BarExtent> CChartModel::CurrentBar() const
     const bool showsSome = std::ranges::find(m_seriesShown, true) != m_seriesShown.end();
     if (m_currentLine < 0 || m_currentLine >= Count() || !showsSome || m_window.HalfBar() >= Thin)
         return std::nullopt;
-    const CMeasureRecord& line = m_index.Line(m_currentLine);
-    BarExtent span{m_scale.m_zeroY, m_scale.m_zeroY};
-    for (const Series series : AllSeries) {
-        // The humidity goes by the temperature's being shown, not by its own.
-        const Series asked = series == Series::Humidity ? Series::Temperature : series;
-        if (!m_seriesShown[Index(asked)])
-            continue;
-        const int row = m_scale.Row(AxisValue(line, series));
-        span.top = std::min(span.top, row);
-        span.bottom = std::max(span.bottom, row);
-    }
-    return BarExtent{span.top - m_scale.m_scrollY, span.bottom - m_scale.m_scrollY};
+    return BarRows(m_index.Line(m_currentLine), m_seriesShown, m_scale);
 }
 
 int CChartModel::PickLine(int column) const

@@ -4,16 +4,13 @@
 #include "chart/model/GaugeTrack.h"
 #include "chart/model/LineIndex.h"
 #include "chart/model/LineRules.h"
-#include "chart/model/TimeAxis.h"
+#include "chart/model/TimeStrip.h"
 #include "chart/model/ValueAxis.h"
 #include "chart/model/ZoomHistory.h"
 #include "data/MeasureData.h"
 
 #include <cstdint>
-#include <functional>
 #include <optional>
-#include <string>
-#include <vector>
 
 namespace skeldon {
 
@@ -46,13 +43,10 @@ enum class ChartWork
 class CChartModel
 {
 public:
-    /// Length in pixels of a text in the chart's font.
-    using Measure = std::function<int(const std::string&)>;
-
     CChartModel();
 
     /// Ties the chart to a data set, which must outlive it, and makes it usable.
-    void Create(const CMeasureData& data, Measure measure);
+    void Create(const CMeasureData& data, CTimeStrip::Measure measure);
 
     /// Takes the chart away: it is as it was before `Create`.
     void Close();
@@ -112,8 +106,6 @@ public:
     [[nodiscard]] WalkView View(double scaleX, double scaleY) const;
     /// Series that are shown and that the data set carries.
     [[nodiscard]] SeriesFlags DrawnSeries() const;
-    [[nodiscard]] std::vector<TimeTick> Ticks() const;
-    [[nodiscard]] std::vector<TimeLabel> Labels() const;
     [[nodiscard]] ScrollBarState HorzScroll() const;
     [[nodiscard]] ScrollBarState VertScroll() const;
     /// What the layout of the picture hangs on.
@@ -136,9 +128,9 @@ public:
     CValueScale m_scale;
     CGaugeTrack m_gauge;
     CZoomHistory m_history;
+    CTimeStrip m_strip;
     ChartMetrics m_metrics;
     LineSpan m_drawn; ///< `m_firstLine` and `m_lastLine` of the painters
-    int m_timeStripHeight = 0;
     bool m_centerable = false;
     bool m_elapsedAxis = false;
     bool m_barChart = false;
@@ -159,7 +151,6 @@ private:
     void Rebuild();
     void ShowAllArea();
     void HorizontalScale();
-    void MeasureStrip();
     void VerticalExtent();
     void AutomaticScale(const ValueSpan& span);
     void SetWindow(const CChartRange& window);
@@ -169,8 +160,6 @@ private:
     [[nodiscard]] std::optional<std::int64_t> ElapsedFrom() const;
     [[nodiscard]] SeriesFlags CountedSeries() const;
 
-    Measure m_measure;
-    CTimeTicks m_ticks;
     bool m_hasRisingTime = false; ///< kept, since many lines may share the first time
 };
 

@@ -155,6 +155,20 @@ ValueSpan AllExtremes(const CLineIndex& index, const SeriesFlags& counted)
     return extremes;
 }
 
+BarExtent BarRows(const CMeasureRecord& line, const SeriesFlags& shown, const CValueScale& scale)
+{
+    BarExtent rows{scale.m_zeroY, scale.m_zeroY};
+    for (const Series series : AllSeries) {
+        const Series asked = series == Series::Humidity ? Series::Temperature : series;
+        if (!shown[Index(asked)])
+            continue;
+        const int row = scale.Row(AxisValue(line, series));
+        rows.top = std::min(rows.top, row);
+        rows.bottom = std::max(rows.bottom, row);
+    }
+    return {rows.top - scale.m_scrollY, rows.bottom - scale.m_scrollY};
+}
+
 bool RisesAtFirstChange(std::span<const CMeasureRecord> lines)
 {
     const auto change =

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "chart/model/ChartLayout.h"
 #include "chart/model/LineWalk.h"
 
 #include <cstdint>
@@ -52,6 +53,11 @@ struct LineSpan
 
 /// The extremes of all lines over some series.
 [[nodiscard]] ValueSpan AllExtremes(const CLineIndex& index, const SeriesFlags& counted);
+
+/// Rows, less what is scrolled off, that the bar of a line covers, the zero line included. Humidity
+/// counts where temperature is shown, not where it is shown itself.
+[[nodiscard]] BarExtent BarRows(const CMeasureRecord& line, const SeriesFlags& shown,
+                                const CValueScale& scale);
 
 /// Whether the first change of time between neighbouring lines is an increase. Equal times are
 /// passed over, and it looks no further.

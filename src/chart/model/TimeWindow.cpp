@@ -71,7 +71,7 @@ int CTimeWindow::HalfBar() const
     return RoundPixel(static_cast<double>(halfMs) * m_pixelsPerMs);
 }
 
-CChartRange CTimeWindow::Scrolled(ScrollRequest request, int tracked, bool isCtrlDown) const
+std::optional<CChartRange> CTimeWindow::Scrolled(ScrollRequest request, int tracked, bool isCtrlDown) const
 {
     const std::int64_t line = RoundPixel64(ScrollStep(isCtrlDown) / m_pixelsPerMs);
     const std::int64_t page = ScrollStepsPerPage * line;
@@ -100,7 +100,7 @@ CChartRange CTimeWindow::Scrolled(ScrollRequest request, int tracked, bool isCtr
         break;
     }
     if (start == m_viewStart)
-        return View();
+        return std::nullopt;
     const std::int64_t width = m_viewEnd - m_viewStart;
     start = std::max(start, m_dataStart);
     std::int64_t end = start + width;
@@ -108,7 +108,7 @@ CChartRange CTimeWindow::Scrolled(ScrollRequest request, int tracked, bool isCtr
         end = m_dataEnd;
         start = std::max(end - width, m_dataStart);
     }
-    return {start, end};
+    return CChartRange{start, end};
 }
 
 ScrollBarState CTimeWindow::HorzScroll(bool hasLines) const

@@ -4,6 +4,7 @@
 #include "chart/model/Rounding.h"
 
 #include <cstdint>
+#include <optional>
 
 namespace skeldon {
 
@@ -47,9 +48,10 @@ public:
         return m_viewStart == m_dataStart && m_viewEnd == m_dataEnd;
     }
 
-    /// The window that a request of the horizontal scroll bar leads to; the present one where it
-    /// leads nowhere. `tracked` is the thumb's position.
-    [[nodiscard]] CChartRange Scrolled(ScrollRequest request, int tracked, bool isCtrlDown) const;
+    /// The window that a request of the horizontal scroll bar leads to, which may be the present
+    /// one at the data's end; nothing where the request itself is for the present place. `tracked`
+    /// is the thumb's position.
+    [[nodiscard]] std::optional<CChartRange> Scrolled(ScrollRequest request, int tracked, bool isCtrlDown) const;
     [[nodiscard]] ScrollBarState HorzScroll(bool hasLines) const;
     /// The window less a quarter of its width at each end.
     [[nodiscard]] CChartRange ZoomedIn() const;

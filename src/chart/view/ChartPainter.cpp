@@ -197,7 +197,7 @@ void CChartPainter::PaintGrid()
     const ChartSizes sizes = m_model.Sizes();
     for (const ValueGridLine& line : ValueGrid(m_model.m_scale, sizes.clientHeight))
         m_raster.Fill(Device(PlaceValueTick(sizes, line.row).gridLine), ToPixel(ChartColour::Grid));
-    for (const TimeTick& tick : m_model.Ticks())
+    for (const TimeTick& tick : m_model.m_strip.Ticks())
         m_raster.Fill(Device(TimeGridLine(sizes, tick.column)), ToPixel(ChartColour::Grid));
 }
 
@@ -232,7 +232,7 @@ void CChartPainter::PaintTimeStrip(CScaledPainter& painter, int top)
     Fill(painter, StripGround(sizes, top), ChartColour::Background);
     if (m_model.Count() < 1)
         return;
-    for (const TimeLabel& label : m_model.Labels())
+    for (const TimeLabel& label : m_model.m_strip.Labels())
         painter.DrawRotatedText(label.column, top, CScaledPainter::Vertical::Column,
                                 QString::fromStdString(label.text), ChartColour::Text);
     const ChartRect name = AxisNameRect(sizes, top);
@@ -287,7 +287,7 @@ void CChartPainter::Compose(QPainter& target, const QImage& chart, const QImage&
     if (layout.band)
         Fill(painter, *layout.band, ChartColour::Background);
     if (layout.hasStrip)
-        copyRows(strip, m_model.m_timeStripHeight, layout.stripTop);
+        copyRows(strip, m_model.m_strip.m_timeStripHeight, layout.stripTop);
     PaintOver(painter, selection);
 }
 

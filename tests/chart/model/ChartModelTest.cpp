@@ -83,7 +83,7 @@ TEST(ChartModel, LaysTheWindowOut)
     EXPECT_EQ(chart.model.PlotRect().left, 12 + 30 + 38);
     EXPECT_EQ(chart.model.PlotRect().right, 568 - 80 - 30 - 6);
     EXPECT_EQ(chart.model.PlotRect().top, 24);
-    EXPECT_EQ(chart.model.m_timeStripHeight, 8 * 7 + 8);
+    EXPECT_EQ(chart.model.m_strip.m_timeStripHeight, 8 * 7 + 8);
     EXPECT_EQ(chart.model.ContentRoom(), 320);
     EXPECT_EQ(chart.model.m_gauge.m_height, 400 - 2 * 16);
 }
@@ -149,7 +149,7 @@ TEST(ChartModel, ShowsNothingWithoutLines)
 {
     Chart chart(std::vector<double>{});
     EXPECT_FALSE(chart.model.ShowsLines());
-    EXPECT_EQ(chart.model.m_timeStripHeight, 0);
+    EXPECT_EQ(chart.model.m_strip.m_timeStripHeight, 0);
     EXPECT_EQ(chart.model.Step(), 8);
     EXPECT_FALSE(chart.model.HorzScroll().isEnabled);
     EXPECT_FALSE(chart.model.HasRisingTime());
@@ -527,12 +527,12 @@ TEST(ChartModel, CountsElapsedTicksFromTheFirstLine)
     Chart chart(Ramp(101));
     chart.model.SetElapsedAxis(true);
     EXPECT_EQ(chart.Work(), ChartWork::Chart);
-    ASSERT_FALSE(chart.model.Ticks().empty());
-    EXPECT_EQ(chart.model.Ticks()[0].time, Start * 1000);
-    EXPECT_EQ(chart.model.Ticks()[1].time, (Start + 20) * 1000);
-    EXPECT_EQ(chart.model.Labels().back().text, "+0:01:40");
+    ASSERT_FALSE(chart.model.m_strip.Ticks().empty());
+    EXPECT_EQ(chart.model.m_strip.Ticks()[0].time, Start * 1000);
+    EXPECT_EQ(chart.model.m_strip.Ticks()[1].time, (Start + 20) * 1000);
+    EXPECT_EQ(chart.model.m_strip.Labels().back().text, "+0:01:40");
     chart.model.SetElapsedAxis(false);
-    EXPECT_EQ(chart.model.Labels()[1].text.size(), 8U);
+    EXPECT_EQ(chart.model.m_strip.Labels()[1].text.size(), 8U);
 }
 
 TEST(ChartModel, CanBeCentredAfterItsHeightChanged)

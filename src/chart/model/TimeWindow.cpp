@@ -71,7 +71,8 @@ int CTimeWindow::HalfBar() const
     return RoundPixel(static_cast<double>(halfMs) * m_pixelsPerMs);
 }
 
-std::optional<CChartRange> CTimeWindow::Scrolled(ScrollRequest request, int tracked, bool isCtrlDown) const
+std::optional<CChartRange> CTimeWindow::Scrolled(ScrollRequest request, int tracked,
+                                                 bool isCtrlDown) const
 {
     const std::int64_t line = RoundPixel64(ScrollStep(isCtrlDown) / m_pixelsPerMs);
     const std::int64_t page = ScrollStepsPerPage * line;

@@ -51,7 +51,8 @@ public:
     /// The window that a request of the horizontal scroll bar leads to, which may be the present
     /// one at the data's end; nothing where the request itself is for the present place. `tracked`
     /// is the thumb's position.
-    [[nodiscard]] std::optional<CChartRange> Scrolled(ScrollRequest request, int tracked, bool isCtrlDown) const;
+    [[nodiscard]] std::optional<CChartRange> Scrolled(ScrollRequest request, int tracked,
+                                                      bool isCtrlDown) const;
     [[nodiscard]] ScrollBarState HorzScroll(bool hasLines) const;
     /// The window less a quarter of its width at each end.
     [[nodiscard]] CChartRange ZoomedIn() const;

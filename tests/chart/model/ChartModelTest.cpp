@@ -503,7 +503,41 @@ TEST(ChartModel, ScrollsTheTimeWindowWithinTheData)
     EXPECT_EQ(chart.Seconds(), Seconds(50.0, 100.0));
     EXPECT_EQ(chart.model.HorzScroll(), (ScrollBarState{true, 100'000, 50'000, 50'000}));
     (void)chart.Work();
+    chart.model.m_centerable = false;
     chart.model.ScrollHorizontally(ScrollRequest::Thumb, 50'000, false);
+    EXPECT_EQ(chart.Work(), ChartWork::None);
+    EXPECT_FALSE(chart.model.m_centerable);
+    // At the end a request for more changes no window, and yet the view counts as moved.
+    chart.model.ScrollHorizontally(ScrollRequest::LineForward, 0, false);
+    EXPECT_EQ(chart.Seconds(), Seconds(50.0, 100.0));
+    EXPECT_TRUE(chart.model.m_centerable);
+}
+
+TEST(ChartModel, ScrollsNoWindowThatShowsAll)
+{
+    Chart chart(Ramp(101));
+    chart.model.m_centerable = false;
+    (void)chart.Work();
+    chart.model.ScrollHorizontally(ScrollRequest::LineForward, 0, false);
+    EXPECT_EQ(chart.Work(), ChartWork::None);
+    EXPECT_FALSE(chart.model.m_centerable);
+}
+
+TEST(ChartModel, IsClosedForGood)
+{
+    Chart chart(Ramp(101));
+    chart.model.ZoomInTime();
+    chart.model.Close();
+    EXPECT_FALSE(chart.model.IsCreated());
+    EXPECT_FALSE(chart.model.CanRedraw());
+    EXPECT_FALSE(chart.model.CanDisplayAllArea());
+    EXPECT_FALSE(chart.model.CanDisplayInCenter());
+    EXPECT_FALSE(chart.model.HasRisingTime());
+    EXPECT_FALSE(chart.model.ZoomBack());
+    EXPECT_EQ(chart.model.Count(), 0);
+    chart.model.ResetData();
+    chart.model.FollowLine(3);
+    EXPECT_EQ(chart.model.m_currentLine, -1);
     EXPECT_EQ(chart.Work(), ChartWork::None);
 }
 

@@ -122,9 +122,9 @@ TEST(TimeWindow, ScrollsAndKeepsItsWidth)
     window.SetView(1'000'020'000, 1'000'059'000);
     window.SetPlot(100, 140); // 0.001 pixels a millisecond
     const auto start = [&window](ScrollRequest request, bool isCtrlDown = false, int tracked = 0) {
-        const CChartRange range = window.Scrolled(request, tracked, isCtrlDown);
-        EXPECT_EQ(range.Width(), 39'000);
-        return range.start - 1'000'000'000;
+        const auto range = window.Scrolled(request, tracked, isCtrlDown);
+        EXPECT_EQ(range.value_or(CChartRange{}).Width(), 39'000);
+        return range.value_or(CChartRange{}).start - 1'000'000'000;
     };
     EXPECT_EQ(start(ScrollRequest::LineBack), 4'000);
     EXPECT_EQ(start(ScrollRequest::LineForward), 36'000);
@@ -137,7 +137,20 @@ TEST(TimeWindow, ScrollsAndKeepsItsWidth)
     EXPECT_EQ(start(ScrollRequest::End), 61'000);
     EXPECT_EQ(start(ScrollRequest::Thumb, false, 33'333), 33'333);
     EXPECT_EQ(start(ScrollRequest::Thumb, false, 99'000), 61'000);
-    EXPECT_EQ(start(ScrollRequest::Thumb, false, 20'000), 20'000);
+    EXPECT_FALSE(window.Scrolled(ScrollRequest::Thumb, 20'000, false).has_value());
+}
+
+TEST(TimeWindow, ScrollsAtTheDataEndToWhereItIs)
+{
+    CTimeWindow window = Window();
+    window.SetView(1'000'000'000, 1'000'040'000);
+    window.SetPlot(100, 140);
+    EXPECT_EQ(window.Scrolled(ScrollRequest::LineBack, 0, false), window.View());
+    EXPECT_EQ(window.Scrolled(ScrollRequest::PageBack, 0, true), window.View());
+    EXPECT_FALSE(window.Scrolled(ScrollRequest::Begin, 0, false).has_value());
+    window.SetView(1'000'060'000, 1'000'100'000);
+    EXPECT_EQ(window.Scrolled(ScrollRequest::LineForward, 0, false), window.View());
+    EXPECT_EQ(window.Scrolled(ScrollRequest::End, 0, false), window.View());
 }
 
 TEST(TimeWindow, ScrollsAWindowWiderThanTheDataToTheData)

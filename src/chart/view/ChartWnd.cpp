@@ -142,7 +142,8 @@ bool CChartWnd::FitLayers()
     const auto device = [ratio](int pixels) { return static_cast<int>(std::ceil(pixels * ratio)); };
     const int wide = device(std::max(width(), 1));
     return Fit(m_chartBitmap, wide, device(std::max(height(), 1))) &&
-           Fit(m_timeBitmap, wide, device(std::max(TimeStripHeight, m_model.m_strip.m_timeStripHeight)));
+           Fit(m_timeBitmap, wide,
+               device(std::max(TimeStripHeight, m_model.m_strip.m_timeStripHeight)));
 }
 
 /// A chart that can not be drawn is not there at all; the rest of the data view goes on.

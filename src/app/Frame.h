@@ -33,6 +33,7 @@ public:
     [[nodiscard]] virtual bool IsPlacementRestored() const = 0;
     /// Whether the window system's own close button works.
     virtual void EnableSystemClose(bool enabled) = 0;
+    [[nodiscard]] virtual bool IsSystemCloseEnabled() const = 0;
     /// A view agreed to the end of the program.
     virtual void CloseFrame() = 0;
     [[nodiscard]] virtual QWidget* Window() = 0;

@@ -1,5 +1,6 @@
 #include "app/PumpMessages.h"
 
+#include "app/Frame.h"
 #include "app/SkeldonApp.h"
 
 #include <QAbstractEventDispatcher>
@@ -45,13 +46,21 @@ private:
 
 int pumpDepth = 0;
 
+/// Whether the work may still be under way that was so at a depth of `level` event loops.
+bool IsAtWork(int level)
+{
+    const CFrame* const frame = App().Frame();
+    return IsPumping() || QThread::currentThread()->loopLevel() > level ||
+           QApplication::activeModalWidget() != nullptr ||
+           (frame != nullptr && !frame->IsSystemCloseEnabled());
+}
+
 /// Closes the main window once the work is over in the middle of which that was wanted, with all
 /// that it waits for and asks. `level` is the depth of event loops at which it was wanted.
 void CloseBehindTheWork(QWidget* window, int level)
 {
     constexpr int RetryMs = 50;
-    if (IsPumping() || QThread::currentThread()->loopLevel() > level ||
-        QApplication::activeModalWidget() != nullptr) {
+    if (IsAtWork(level)) {
         QTimer::singleShot(RetryMs, window, [window, level] { CloseBehindTheWork(window, level); });
         return;
     }

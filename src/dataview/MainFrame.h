@@ -40,6 +40,7 @@ public:
     void SwitchView(ViewIndex view) override;
     [[nodiscard]] bool IsPlacementRestored() const override { return m_bPlacementRestored; }
     void EnableSystemClose(bool enabled) override { m_closeEnabled = enabled; }
+    [[nodiscard]] bool IsSystemCloseEnabled() const override { return m_closeEnabled; }
     void CloseFrame() override;
     [[nodiscard]] QWidget* Window() override { return this; }
     bool BuildViews(ViewIndex first) override;

@@ -30,6 +30,7 @@ public:
     void SwitchView(ViewIndex /*view*/) override {}
     [[nodiscard]] bool IsPlacementRestored() const override { return false; }
     void EnableSystemClose(bool /*enabled*/) override {}
+    [[nodiscard]] bool IsSystemCloseEnabled() const override { return true; }
     void CloseFrame() override {}
     [[nodiscard]] QWidget* Window() override { return nullptr; }
     bool BuildViews(ViewIndex first) override

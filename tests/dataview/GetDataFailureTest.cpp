@@ -1,6 +1,7 @@
 #include "FrameApp.h"
 #include "StripWatch.h"
 
+#include "app/PumpMessages.h"
 #include "data/RecordFlags.h"
 #include "support/window/PaintCounter.h"
 
@@ -55,10 +56,11 @@ std::function<void(CProgressWindow&)> MovingOn(CFrameApp& app, int moreLooks = 0
     };
 }
 
-/// Closes the frame when the transfer has begun. `isWanted` tells whether that was done.
+/// Closes the frame while lines come: when the link waits for its end, closing is refused.
+/// `isWanted` tells whether that was done.
 void CloseOnce(CFrameApp& app, const CProgressWindow& strip, bool& isWanted)
 {
-    if (!strip.GetText().isEmpty() && !std::exchange(isWanted, true))
+    if (IsPumping() && !strip.GetText().isEmpty() && !std::exchange(isWanted, true))
         app.Frame().close();
 }
 
@@ -201,7 +203,7 @@ private slots:
     void CloseWaitsForTheMissingMarkToo()
     {
         CFrameApp app;
-        QVERIFY(StartWith(app, {"--lines", "400", "--fault", "no-mark=D"}));
+        QVERIFY(StartWith(app, {"--lines", "400", "--fault", "no-mark=D", "--rate", "20000"}));
         CStripWatch watch;
         bool isWanted = false;
         watch.m_look = [&](CProgressWindow& strip) {
@@ -209,11 +211,15 @@ private slots:
             if (app.View().Data().GetSize() == 400)
                 app.m_clock.MoveOn(CRecorderTransport::TimeoutMs);
         };
+        std::size_t linesAtTheQuestion = 0;
+        app.m_prompts->m_whileShown = [&](const Prompt& /*prompt*/) {
+            linesAtTheQuestion = app.View().Data().GetSize();
+        };
+        app.m_prompts->m_answers = {Answer::No};
         GetData(app);
         QVERIFY(isWanted);
-        QVERIFY(app.Frame().isVisible());
-        app.m_prompts->m_answers = {Answer::No};
         QTRY_VERIFY(!app.Frame().isVisible());
+        QCOMPARE(linesAtTheQuestion, std::size_t{400});
     }
 
     void CloseWaitsForTheBoxThatTellsOfTheFailure()

@@ -38,6 +38,7 @@ public:
     void SwitchView(ViewIndex view) override { m_switched.push_back(view); }
     [[nodiscard]] bool IsPlacementRestored() const override { return false; }
     void EnableSystemClose(bool /*enabled*/) override {}
+    [[nodiscard]] bool IsSystemCloseEnabled() const override { return true; }
     void CloseFrame() override { ++m_closed; }
     [[nodiscard]] QWidget* Window() override { return nullptr; }
     bool BuildViews(ViewIndex /*first*/) override { return true; }

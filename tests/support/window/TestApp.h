@@ -96,6 +96,7 @@ public:
     void SwitchView(ViewIndex view) override { m_view = view; }
     [[nodiscard]] bool IsPlacementRestored() const override { return m_placementRestored; }
     void EnableSystemClose(bool enabled) override { m_closeEnabled = enabled; }
+    [[nodiscard]] bool IsSystemCloseEnabled() const override { return m_closeEnabled; }
     void CloseFrame() override { m_closed = true; }
     [[nodiscard]] QWidget* Window() override { return m_window; }
     bool BuildViews(ViewIndex /*first*/) override { return true; }

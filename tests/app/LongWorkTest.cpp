@@ -194,6 +194,20 @@ private slots:
         QCOMPARE(m_window->m_closes, 1);
     }
 
+    void ACloseMeanwhileWaitsUntilTheWindowMayBeClosed()
+    {
+        m_app->m_frame.EnableSystemClose(false);
+        CloseByFrame(*m_window);
+        QVERIFY(PumpMessages());
+        bool isEarly = true;
+        QTimer::singleShot(120, m_window.get(), [this, &isEarly] {
+            isEarly = m_window->m_closes > 0;
+            m_app->m_frame.EnableSystemClose(true);
+        });
+        QTRY_COMPARE(m_window->m_closes, 1);
+        QVERIFY(!isEarly);
+    }
+
     void OutsideOfPumpsAWindowClosesAtOnce()
     {
         PumpMessages();

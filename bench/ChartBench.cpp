@@ -57,7 +57,7 @@ struct Chart
     double Paint()
     {
         painter.PaintChart(layer);
-        painter.PaintTimeStrip(strip, 0);
+        painter.DrawTimeStrip(strip, 0);
         return layer.pixel(Width / 2, Height / 2);
     }
 

@@ -266,7 +266,7 @@ private:
         m_soak.Check(View().List().model()->rowCount() == size, "rows and lines differ");
         m_soak.Check(View().List().CurrentRow() < size, "the current row is behind the last");
         m_soak.Check(model.Count() <= size, "the chart has lines that there are not");
-        if (!model.ShowsLines())
+        if (model.m_drawn.IsEmpty())
             return;
         m_soak.Check(model.m_drawn.first >= 0 && model.m_drawn.last < model.Count(),
                      "lines are drawn that there are not");

@@ -61,7 +61,6 @@ public:
     [[nodiscard]] bool HasRisingTime() const;
     /// Lines before the first break of the time line: no others are shown.
     [[nodiscard]] int Count() const { return m_index.Count(); }
-    [[nodiscard]] bool ShowsLines() const { return !m_drawn.IsEmpty(); }
     [[nodiscard]] int Step() const { return m_scale.GetStep(); }
 
     // --- operations ---
@@ -80,8 +79,7 @@ public:
     void SetScaleStep(int step);
     bool ZoomInTime();
     bool ZoomBack();
-    /// True if that changed a series.
-    bool SetSeriesShown(std::uint16_t mask, bool shown);
+    void SetSeriesShown(std::uint16_t mask, bool shown);
     /// 1 to 4.
     void SetLineWeight(int weight);
     void SetElapsedAxis(bool elapsed);
@@ -96,6 +94,10 @@ public:
     void ShowWindow(const CChartRange& window);
     /// Zooms to the window between two content columns.
     void ZoomToColumns(int column, int otherColumn);
+    /// All of the picture is to be painted anew.
+    void Repaint();
+    /// At least so much of it is.
+    void NeedWork(ChartWork work);
 
     // --- for painters ---
 
@@ -154,8 +156,6 @@ private:
     void VerticalExtent();
     void AutomaticScale(const ValueSpan& span);
     void SetWindow(const CChartRange& window);
-    void Repaint();
-    void NeedWork(ChartWork work);
     void TakeCurrentLine(int line, bool fromMouse);
     [[nodiscard]] std::optional<std::int64_t> ElapsedFrom() const;
     [[nodiscard]] SeriesFlags CountedSeries() const;

@@ -45,7 +45,7 @@ LineSpan DrawnLines(const CLineIndex& index, const CTimeWindow& window)
     return {std::max(index.LastAtOrBefore(window.m_paddedStart, last + 1), 0), last};
 }
 
-LineSpan TouchingLines(const CLineIndex& index, const CTimeWindow& window)
+LineSpan GetVisibleLines(const CLineIndex& index, const CTimeWindow& window)
 {
     const int count = index.Count();
     const std::int64_t half = window.m_barWidthMs / 2;

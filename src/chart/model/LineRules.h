@@ -25,7 +25,7 @@ struct LineSpan
 [[nodiscard]] LineSpan DrawnLines(const CLineIndex& index, const CTimeWindow& window);
 
 /// The lines whose bars touch the padded window; empty if there are none.
-[[nodiscard]] LineSpan TouchingLines(const CLineIndex& index, const CTimeWindow& window);
+[[nodiscard]] LineSpan GetVisibleLines(const CLineIndex& index, const CTimeWindow& window);
 
 /// The line that a click at a content column picks: the first one of `drawn` at or right of it, by
 /// the right edge of its bar in bar form; if there is none, the index behind the last.

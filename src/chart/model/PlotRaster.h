@@ -30,8 +30,6 @@ public:
     /// Copies the area held column by column into such an image.
     void CopyTo(std::uint32_t* image, std::size_t stride) const;
 
-    [[nodiscard]] const ChartRect& Area() const { return m_area; }
-
 private:
     [[nodiscard]] int Height() const { return m_area.bottom - m_area.top; }
     /// Rows from `top` to `bottom`, both included, of one column.

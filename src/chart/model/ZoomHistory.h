@@ -23,7 +23,6 @@ public:
     }
     void Clear() { m_windows.clear(); }
     [[nodiscard]] bool IsEmpty() const { return m_windows.empty(); }
-    [[nodiscard]] const std::vector<CChartRange>& Windows() const { return m_windows; }
 
 private:
     std::vector<CChartRange> m_windows;

@@ -55,7 +55,7 @@ bool PaintBody(CScaledPainter& body, CChartPainter& chart, const ChartSizes& siz
     }
     if (!chart.PaintCurves(body, body.DeviceY(strip)))
         return false;
-    chart.PaintTimeStrip(body, strip);
+    chart.DrawTimeStrip(body, strip);
     if (const auto band = Composed(sizes).band)
         body.FillRectScaled(band->left, band->top, band->right, band->bottom,
                             ChartColour::Background);

@@ -220,13 +220,13 @@ void CChartPainter::PaintFills()
                                      : Pixel(fill.series, fill.isDimmed));
 }
 
-void CChartPainter::PaintTimeStrip(QImage& target, int top)
+void CChartPainter::DrawTimeStrip(QImage& target, int top)
 {
     CScaledPainter painter(target, m_font, m_scaleX, m_scaleY);
-    PaintTimeStrip(painter, top);
+    DrawTimeStrip(painter, top);
 }
 
-void CChartPainter::PaintTimeStrip(CScaledPainter& painter, int top)
+void CChartPainter::DrawTimeStrip(CScaledPainter& painter, int top)
 {
     const ChartSizes sizes = m_model.Sizes();
     Fill(painter, StripGround(sizes, top), ChartColour::Background);

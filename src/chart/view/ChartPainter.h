@@ -43,7 +43,7 @@ public:
     /// The bars of the lines that share the current line's time, over what is there.
     void PaintEqualRun(QImage& target);
     /// The time strip, from row `top` on.
-    void PaintTimeStrip(QImage& target, int top);
+    void DrawTimeStrip(QImage& target, int top);
     /// Puts the layers together and paints what lies over them: cursor, titles, and the selection
     /// between two columns of the client area where there is one. `painter` goes by device pixels
     /// from the picture's left top on.
@@ -58,7 +58,7 @@ public:
     /// than `bandBytes`. False if such a picture can not be made.
     [[nodiscard]] bool PaintCurves(CScaledPainter& painter, int bottom,
                                    std::int64_t bandBytes = PageBandBytes);
-    void PaintTimeStrip(CScaledPainter& painter, int top);
+    void DrawTimeStrip(CScaledPainter& painter, int top);
     /// What lies over the layers.
     void PaintOver(CScaledPainter& painter, const std::optional<std::pair<int, int>>& selection);
 

@@ -147,7 +147,7 @@ QImage ChartPicture(const CChartModel& model, const ChartColours& colours, const
     CChartPainter painter(model, colours, font);
     painter.SetScale(ratio, ratio);
     painter.PaintChart(layer);
-    painter.PaintTimeStrip(strip, 0);
+    painter.DrawTimeStrip(strip, 0);
     return FrameChart(sizes, colours, font, title, ratio,
                       [&](QPainter& view) { painter.Compose(view, layer, strip, std::nullopt); });
 }

@@ -195,7 +195,7 @@ void CChartWnd::PaintLayers(ChartWork work)
     m_painter->SetScale(m_layerRatio, m_layerRatio);
     if (work == ChartWork::Chart) {
         m_painter->PaintChart(m_chartBitmap);
-        m_painter->PaintTimeStrip(m_timeBitmap, 0);
+        m_painter->DrawTimeStrip(m_timeBitmap, 0);
     } else if (work == ChartWork::EqualRun) {
         m_painter->PaintEqualRun(m_chartBitmap);
     }
@@ -215,6 +215,11 @@ void CChartWnd::paintEvent(QPaintEvent* /*event*/)
     if (m_isPainted && m_layerRatio != devicePixelRatioF() && FitLayers())
         PaintLayers(ChartWork::Chart);
     QPainter painter(this);
+    Present(painter);
+}
+
+void CChartWnd::Present(QPainter& painter)
+{
     if (m_isPainted)
         PaintPicture(painter);
     else
@@ -315,7 +320,7 @@ void CChartWnd::SetSeriesShown(std::uint16_t mask, bool shown)
 void CChartWnd::SetColors(const ChartColours& colours)
 {
     m_colours = colours;
-    m_model.m_work = ChartWork::Chart;
+    m_model.Repaint();
     CarryOut();
 }
 

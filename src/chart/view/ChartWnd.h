@@ -112,6 +112,7 @@ private:
     void TellWork(ChartWork work);
     void PaintLayers(ChartWork work);
     [[nodiscard]] QRegion PaintedRegion() const;
+    void Present(QPainter& painter);
     void PaintPicture(QPainter& painter);
     void ComposeView(QPainter& painter);
     void PaintCorners(QPainter& painter) const;

@@ -70,6 +70,10 @@ void CChartWnd::OnScroll(QScrollBar& bar, int action)
 void CChartWnd::wheelEvent(QWheelEvent* event)
 {
     constexpr int DeltaOfLine = 40;
+    event->accept();
+    // The ground of a selection stays where it is.
+    if (m_mouseState == MouseState::Dragging)
+        return;
     const QPoint delta = event->angleDelta();
     const bool isSideways = delta.x() != 0 || event->modifiers().testFlag(Qt::ShiftModifier);
     const int turned = delta.x() != 0 ? delta.x() : delta.y();
@@ -82,7 +86,6 @@ void CChartWnd::wheelEvent(QWheelEvent* event)
             m_model.ScrollVertically(request, 0, IsCtrlHeld());
     }
     CarryOut();
-    event->accept();
 }
 
 ChartRect CChartWnd::PlotHit() const
@@ -201,7 +204,7 @@ void CChartWnd::StartSelection(QPoint point)
 {
     m_dragStartX = m_dragX = point.x();
     SetMouseState(MouseState::Dragging);
-    m_model.m_work = std::max(m_model.m_work, ChartWork::Compose);
+    m_model.NeedWork(ChartWork::Compose);
     CarryOut();
 }
 
@@ -218,7 +221,7 @@ void CChartWnd::mouseMoveEvent(QMouseEvent* event)
         if (column == m_dragX)
             return;
         m_dragX = column;
-        m_model.m_work = std::max(m_model.m_work, ChartWork::Compose);
+        m_model.NeedWork(ChartWork::Compose);
         CarryOut();
     }
 }
@@ -241,7 +244,7 @@ void CChartWnd::EndSelection(int argument)
 {
     SetMouseState(MouseState::Idle);
     emit MeasureGraph(MeasureGraphCode::AreaEnded, argument);
-    m_model.m_work = std::max(m_model.m_work, ChartWork::Compose);
+    m_model.NeedWork(ChartWork::Compose);
     CarryOut();
 }
 
@@ -289,7 +292,7 @@ void CChartWnd::OnMeasureGraph(MeasureGraphCode code, int argument)
     }
     case MeasureGraphCode::Marks:
     case MeasureGraphCode::MarksToo:
-        m_model.m_work = ChartWork::Chart;
+        m_model.Repaint();
         break;
     default:
         return;

@@ -57,11 +57,11 @@ TEST(LineRules, TouchTheWindowWithTheirBars)
 {
     // A bar of a line at 480 ends at 490, one at 1019 begins at 1009.
     const Chart chart({479, 480, 600, 1019, 1020}, 500, 1000);
-    EXPECT_EQ(TouchingLines(chart.index, chart.window), (LineSpan{1, 3}));
+    EXPECT_EQ(GetVisibleLines(chart.index, chart.window), (LineSpan{1, 3}));
     const Chart beside({100, 2000}, 500, 1000);
-    EXPECT_TRUE(TouchingLines(beside.index, beside.window).IsEmpty());
+    EXPECT_TRUE(GetVisibleLines(beside.index, beside.window).IsEmpty());
     const Chart before({100, 200}, 500, 1000);
-    EXPECT_TRUE(TouchingLines(before.index, before.window).IsEmpty());
+    EXPECT_TRUE(GetVisibleLines(before.index, before.window).IsEmpty());
 }
 
 TEST(LineRules, PickTheFirstLineAtOrRightOfAColumn)

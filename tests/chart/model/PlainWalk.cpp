@@ -225,19 +225,19 @@ LineSpan PlainDrawnLines(const Lines& lines, const CTimeWindow& window)
     return drawn;
 }
 
-LineSpan PlainTouchingLines(const Lines& lines, const CTimeWindow& window)
+LineSpan PlainVisibleLines(const Lines& lines, const CTimeWindow& window)
 {
     const std::int64_t half = window.m_barWidthMs / 2;
-    LineSpan touching;
+    LineSpan visible;
     for (int i = 0; i < static_cast<int>(lines.size()); ++i) {
         const std::int64_t time = TimeOf(At(lines, i));
         if (time - half >= window.m_paddedEnd)
             break;
-        if (touching.first < 0 && time + half >= window.m_paddedStart)
-            touching.first = i;
-        touching.last = i;
+        if (visible.first < 0 && time + half >= window.m_paddedStart)
+            visible.first = i;
+        visible.last = i;
     }
-    return touching.first < 0 ? LineSpan{} : touching;
+    return visible.first < 0 ? LineSpan{} : visible;
 }
 
 int PlainPick(const Lines& lines, const CTimeWindow& window, const LineSpan& drawn, int column,

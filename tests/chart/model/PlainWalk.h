@@ -27,7 +27,7 @@ struct PlainPicture
 
 // The searches, each as one scan from the first line on.
 [[nodiscard]] LineSpan PlainDrawnLines(const Lines& lines, const CTimeWindow& window);
-[[nodiscard]] LineSpan PlainTouchingLines(const Lines& lines, const CTimeWindow& window);
+[[nodiscard]] LineSpan PlainVisibleLines(const Lines& lines, const CTimeWindow& window);
 [[nodiscard]] int PlainPick(const Lines& lines, const CTimeWindow& window, const LineSpan& drawn,
                             int column, bool isBarChart);
 [[nodiscard]] int PlainNear(const Lines& lines, const CTimeWindow& window, const LineSpan& drawn,

@@ -1,5 +1,9 @@
 #include "chart/model/ValueAxis.h"
 
+#include <cmath>
+#include <string>
+#include <utility>
+
 namespace skeldon {
 namespace {
 
@@ -92,6 +96,28 @@ TEST(ValueAxis, LabelsOnlyWholePercents)
     EXPECT_EQ(HumidityLabel(0.5), "2");
     EXPECT_EQ(HumidityLabel(33.3 / 4.0), "");
     EXPECT_EQ(HumidityLabel(5.0), "20");
+}
+
+TEST(ValueAxis, LabelsEveryTickOfWholePercentsAtTheCoarserSteps)
+{
+    // Percents from tick to tick, and how many ticks lie between two whole ones.
+    const std::vector<std::pair<double, int>> steps{{20, 1}, {20, 1},  {20, 1},  {8, 1},  {4, 1},
+                                                    {2, 1},  {0.8, 5}, {0.4, 5}, {0.4, 5}};
+    for (int step = 0; step < CValueScale::StepCount; ++step) {
+        const auto& [percents, whole] = steps[static_cast<std::size_t>(step)];
+        const std::vector<ValueTick> ticks = ValueTicks(At(step), 50000, DisplayUnit::G);
+        int i = 0;
+        for (const ValueTick& tick : ticks) {
+            if (tick.value < 0.0 || i * percents > 100.5) {
+                EXPECT_EQ(tick.humidity, "") << tick.value;
+                continue;
+            }
+            const bool isWhole = i % whole == 0;
+            EXPECT_EQ(tick.humidity, isWhole ? std::to_string(std::lround(i * percents)) : "")
+                << tick.value;
+            ++i;
+        }
+    }
 }
 
 TEST(ValueAxis, LabelsEveryFifthTickWithAPercentAtTheFinestStep)

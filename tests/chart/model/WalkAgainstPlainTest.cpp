@@ -172,9 +172,9 @@ TEST(WalkAgainstPlain, FindsTheSameLines)
         const CTimeWindow& window = drawn.view.window;
         const LineSpan span = DrawnLines(drawn.index, window);
         ASSERT_EQ(span, PlainDrawnLines(drawn.lines, window));
-        const LineSpan touching = TouchingLines(drawn.index, window);
-        const LineSpan plainTouching = PlainTouchingLines(drawn.lines, window);
-        ASSERT_EQ(touching, plainTouching);
+        const LineSpan visible = GetVisibleLines(drawn.index, window);
+        const LineSpan plainVisible = PlainVisibleLines(drawn.lines, window);
+        ASSERT_EQ(visible, plainVisible);
         if (span.IsEmpty())
             continue;
         CRandomCharts random(seed);

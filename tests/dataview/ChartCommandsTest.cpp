@@ -216,6 +216,33 @@ private slots:
         QCOMPARE(app.Frame().m_status, QStringLiteral("Copied to the clipboard"));
     }
 
+    void AClickOnTheChartMovesTheFocusOfTheListAndNoWindow()
+    {
+        CViewApp app;
+        app.Show();
+        app.OpenLines(40);
+        app.View().OnCommand(CommandId::HorizontalInflate);
+        const CChartModel& model = app.View().Chart().Model();
+        const CChartRange window = model.m_window.View();
+        const auto click = [&](int line) {
+            const std::int64_t column = model.m_window.Column(model.m_index.Time(line));
+            const QPoint point(static_cast<int>(column) + model.Sizes().gaugeWidth, 60);
+            QTest::mouseClick(&app.View().Chart(), Qt::LeftButton, {}, point);
+        };
+        click(25);
+        QCOMPARE(model.m_currentLine, -1); // it is posted
+        app.Settle();
+        QCOMPARE(app.List().CurrentRow(), 25);
+        QCOMPARE(model.m_currentLine, 25);
+        QCOMPARE(model.m_window.View(), window);
+        // From the list the same line comes to the middle, as far as there are lines.
+        QTest::keyClick(&app.List(), Qt::Key_Up);
+        QTest::keyClick(&app.List(), Qt::Key_Down);
+        QCOMPARE(model.m_currentLine, 25);
+        QVERIFY(model.m_window.m_viewStart > window.start);
+        QCOMPARE(model.m_window.View().Width(), window.Width());
+    }
+
     void TheChartsOwnCommandsGoOnWhileAnAreaIsChosen()
     {
         CViewApp app;

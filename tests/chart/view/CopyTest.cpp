@@ -132,7 +132,7 @@ private:
 int main(int argc, char** argv)
 {
     int failed = 0;
-    for (const double ratio : {1.0, 2.0}) {
+    for (const double ratio : {1.0, 1.5, 2.0}) {
         qputenv("QT_SCALE_FACTOR", QByteArray::number(ratio));
         const QApplication application(argc, argv);
         CopyTest test(ratio);

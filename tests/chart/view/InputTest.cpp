@@ -125,6 +125,39 @@ private slots:
         QCOMPARE(app.Codes(), (Codes{{Code::CurrentLine, 20}}));
     }
 
+    void AClickRightOfTheLastDrawnLinePicksTheNextOne()
+    {
+        CChartApp app(SecondLines(20));
+        // A window that ends before the first line: it is drawn as if it were 5 seconds wide.
+        QVERIFY(app.Chart().BeginAreaSelection());
+        Drag(app, app.PlotLeft(), app.PlotLeft() + 4);
+        QCOMPARE(app.Codes(), (Codes{{Code::AreaEnded, 1}}));
+        const CChartModel& model = app.Chart().Model();
+        QVERIFY(model.m_window.m_viewEnd < model.m_window.m_viewStart);
+        QCOMPARE(model.m_drawn, (LineSpan{0, 1}));
+        const int third =
+            static_cast<int>(model.m_window.Column(ChartStart() + 3000)) + CChartApp::Gauge;
+        QTest::mouseClick(&app.Chart(), Qt::LeftButton, {}, app.InPlot(third));
+        QCOMPARE(app.Codes(), (Codes{{Code::CurrentLine, 2}}));
+        app.Chart().OnMeasureGraph(Code::CurrentLine, 2);
+        QCOMPARE(model.m_currentLine, 2);
+    }
+
+    void AClickPicksABarUpToItsRightEdge()
+    {
+        CChartApp app(SecondLines(20));
+        const auto picked = [&app](int column) {
+            QTest::mouseClick(&app.Chart(), Qt::LeftButton, {}, app.InPlot(column));
+            const Codes codes = app.Codes();
+            return codes.size() == 1 && codes[0].first == Code::CurrentLine ? codes[0].second : -1;
+        };
+        QCOMPARE(picked(app.Column(7000)), 7);
+        QCOMPARE(picked(app.Column(7000) + 1), 8);
+        app.Chart().SetBarChart(true);
+        QCOMPARE(picked(app.Column(7250)), 7); // a bar is 500 ms wide
+        QCOMPARE(picked(app.Column(7250) + 1), 8);
+    }
+
     void ALinePickedWithTheMouseNeverMovesTheWindow()
     {
         CChartApp app(SecondLines(100));
@@ -215,15 +248,32 @@ private slots:
         QVERIFY(app.Chart().Model().m_window.ShowsAll());
     }
 
+    void APressOffThePlotLeavesTheSelectionArmed()
+    {
+        CChartApp app(SecondLines(100));
+        QVERIFY(app.Chart().BeginAreaSelection());
+        QTest::mouseMove(&app.Chart(), app.InPlot(app.Column(20'000)));
+        const QPoint off(app.PlotLeft() - 20, 40);
+        QTest::mouseMove(&app.Chart(), off);
+        QTest::mouseClick(&app.Chart(), Qt::LeftButton, {}, off);
+        QCOMPARE(app.Codes(), Codes{});
+        QVERIFY(!app.Chart().BeginAreaSelection());
+        QVERIFY(app.Chart().CanRedraw());
+    }
+
     void NothingIsRedrawnFromOutsideWhileAnAreaIsDragged()
     {
         CChartApp app(SecondLines(100));
+        app.Chart().ChangeScaleStep(4);
         QVERIFY(app.Chart().BeginAreaSelection());
         QVERIFY(app.Chart().CanRedraw());
         QTest::mousePress(&app.Chart(), Qt::LeftButton, {}, app.InPlot(app.Column(20'000)));
         QVERIFY(!app.Chart().CanRedraw());
         QTest::mouseClick(&app.Chart(), Qt::RightButton, {}, app.InPlot(app.Column(30'000)));
         QVERIFY(!app.Chart().CanRedraw());
+        const int scrolled = ScrollY(app);
+        Wheel(app, {0, -120});
+        QCOMPARE(ScrollY(app), scrolled);
         QCOMPARE(app.Codes(), Codes{});
         QTest::mouseRelease(&app.Chart(), Qt::LeftButton, {}, app.InPlot(app.Column(20'000)));
         QVERIFY(app.Chart().CanRedraw());
@@ -233,6 +283,13 @@ private slots:
     {
         CChartApp app(SecondLines(100));
         QVERIFY(app.Chart().BeginAreaSelection());
+        QTest::mouseClick(&app.Chart(), Qt::RightButton, {}, app.InPlot(app.Column(20'000)));
+        QCOMPARE(app.Codes(), (Codes{{Code::AreaEnded, 1}}));
+        QVERIFY(QApplication::activePopupWidget() == nullptr);
+        QCOMPARE(app.Chart().Model().m_lineFromMouse, false);
+        // The same once the pointer was seen on the plot.
+        QVERIFY(app.Chart().BeginAreaSelection());
+        QTest::mouseMove(&app.Chart(), app.InPlot(app.Column(20'000)));
         QTest::mouseClick(&app.Chart(), Qt::RightButton, {}, app.InPlot(app.Column(20'000)));
         QCOMPARE(app.Codes(), (Codes{{Code::AreaEnded, 1}}));
         QVERIFY(QApplication::activePopupWidget() == nullptr);
@@ -377,6 +434,15 @@ private slots:
         QCOMPARE(View(app), (CChartRange{view.start + step, view.end + step}));
         bar.triggerAction(QAbstractSlider::SliderPageStepSub);
         QCOMPARE(View(app).start, view.start + step - 4 * step);
+        {
+            const CCtrlHeld ctrl(app.Chart());
+            const auto small = static_cast<std::int64_t>(4 / pixelsPerMs + 0.5);
+            const std::int64_t before = View(app).start;
+            bar.triggerAction(QAbstractSlider::SliderSingleStepAdd);
+            QCOMPARE(View(app).start, before + small);
+            bar.triggerAction(QAbstractSlider::SliderPageStepAdd);
+            QCOMPARE(View(app).start, before + small + 4 * small);
+        }
         QCOMPARE(View(app).Width(), view.Width());
         bar.triggerAction(QAbstractSlider::SliderToMaximum);
         QCOMPARE(View(app).end, ChartStart() + 99'000);
@@ -422,6 +488,22 @@ private slots:
         QTest::mousePress(&app.Chart(), Qt::RightButton, {}, app.InPlot(app.Column(5500)));
         QCOMPARE(app.Codes(), Codes{});
         QCOMPARE(app.Chart().PopupLine(), -1);
+    }
+
+    void ThePopupTakesALineLessThanTwoColumnsOff()
+    {
+        CChartApp app(SecondLines(20));
+        for (const int off : {-2, -1, 0, 1, 2}) {
+            const int line = std::abs(off) < 2 ? 5 : -1;
+            QTest::mousePress(&app.Chart(), Qt::RightButton, {},
+                              app.InPlot(app.Column(5000) + off));
+            QCOMPARE(app.Chart().PopupLine(), line);
+            QCOMPARE(app.Codes(), line < 0 ? Codes{} : (Codes{{Code::CurrentLine, line}}));
+            QVERIFY(app.Chart().Model().m_lineFromMouse);
+            QWidget* const menu = QApplication::activePopupWidget();
+            QVERIFY(menu != nullptr);
+            menu->close();
+        }
     }
 
     void WithoutLinesNothingHappens()

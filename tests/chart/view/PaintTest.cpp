@@ -1,6 +1,5 @@
-#include "ChartApp.h"
+#include "Pixels.h"
 
-#include <QSet>
 #include <QTest>
 
 using namespace skeldon;
@@ -8,61 +7,9 @@ using namespace skeldon::test;
 
 namespace {
 
-const QColor White(Qt::white);
-const QColor Grid(0xC0, 0xC0, 0xC0);
-const QColor Cursor(0, 0, 0);
-const QColor Edge(0x40, 0x40, 0x80);
-const std::array<QColor, SeriesCount> Colours{QColor(0xC5, 0x0C, 0xC5), QColor(0x00, 0x00, 0x80),
-                                              QColor(0x00, 0x80, 0x00), QColor(0x80, 0x80, 0x00),
-                                              QColor(0xC1, 0x02, 0x02), QColor(0x49, 0x8B, 0xF9)};
-
 /// A row of its own for each series: 10, -10, 20, 24, 60 / 2 and 160 / 4 units of the axis.
 constexpr ChartLine Level{0, 10.0, -10.0, 20.0, 24.0, 60.0, 160.0, 0};
 constexpr std::array<double, SeriesCount> LevelValues{10.0, -10.0, 20.0, 24.0, 30.0, 40.0};
-
-QSet<int> ColumnsOf(const QImage& picture, int row, const QColor& colour)
-{
-    QSet<int> columns;
-    for (int x = 0; x < picture.width(); ++x) {
-        if (picture.pixelColor(x, row) == colour)
-            columns.insert(x);
-    }
-    return columns;
-}
-
-QSet<int> RowsOf(const QImage& picture, int column, const QColor& colour)
-{
-    QSet<int> rows;
-    for (int y = 0; y < picture.height(); ++y) {
-        if (picture.pixelColor(column, y) == colour)
-            rows.insert(y);
-    }
-    return rows;
-}
-
-/// The numbers from `first` up to but without `end`.
-QSet<int> Span(int first, int end)
-{
-    QSet<int> numbers;
-    for (int i = first; i < end; ++i)
-        numbers.insert(i);
-    return numbers;
-}
-
-bool IsNear(const QColor& one, const QColor& other)
-{
-    constexpr int Rounding = 1;
-    return std::abs(one.red() - other.red()) <= Rounding &&
-           std::abs(one.green() - other.green()) <= Rounding &&
-           std::abs(one.blue() - other.blue()) <= Rounding;
-}
-
-void HideAll(CChartApp& app)
-{
-    for (const Series each : AllSeries)
-        app.Chart().SetSeriesShown(Info(each).mask, false);
-    app.Chart().ChangeScaleStep(0);
-}
 
 } // namespace
 
@@ -82,15 +29,15 @@ private slots:
         QSet<int> columns;
         for (int second = 1; second < 20; second += 2)
             columns.insert(app.Column(second * 1000));
-        QCOMPARE(ColumnsOf(picture, 30, Grid), columns);
-        QCOMPARE(RowsOf(picture, app.Column(5000), Grid), Span(23, 323));
+        QCOMPARE(ColumnsOf(picture, 30, GridGrey), columns);
+        QCOMPARE(RowsOf(picture, app.Column(5000), GridGrey), Span(23, 323));
 
         const int between = app.Column(5500);
         QSet<int> rows;
         for (int value = -50; value <= 50; value += 5)
             rows.insert(CoarseRow(value) - 1);
-        QCOMPARE(RowsOf(picture, between, Grid), rows);
-        QCOMPARE(ColumnsOf(picture, CoarseRow(20) - 1, Grid),
+        QCOMPARE(RowsOf(picture, between, GridGrey), rows);
+        QCOMPARE(ColumnsOf(picture, CoarseRow(20) - 1, GridGrey),
                  Span(app.PlotLeft(), app.PlotRight()));
         for (int row = 30; row < 38; ++row)
             QCOMPARE(picture.pixelColor(between, row), White);
@@ -102,7 +49,7 @@ private slots:
             CChartApp app(SecondLines(20, Level));
             app.ShowAlone(series);
             const QImage picture = app.Picture();
-            const QSet<int> rows = RowsOf(picture, app.Column(5500), Colours[Index(series)]);
+            const QSet<int> rows = RowsOf(picture, app.Column(5500), SeriesColours[Index(series)]);
             QCOMPARE(rows, QSet<int>{CoarseRow(LevelValues[Index(series)])});
         }
         // Half pixels round toward zero below the zero line and away from it above.
@@ -118,9 +65,9 @@ private slots:
         app.Chart().ChangeScaleStep(0);
         const QImage picture = app.Picture();
         const int between = app.Column(5500);
-        QVERIFY(RowsOf(picture, between, Colours[Index(Series::Temperature)]).isEmpty());
-        QVERIFY(RowsOf(picture, between, Colours[Index(Series::Humidity)]).isEmpty());
-        QCOMPARE(RowsOf(picture, between, Colours[Index(Series::Resultant)]).size(), 1);
+        QVERIFY(RowsOf(picture, between, SeriesColours[Index(Series::Temperature)]).isEmpty());
+        QVERIFY(RowsOf(picture, between, SeriesColours[Index(Series::Humidity)]).isEmpty());
+        QCOMPARE(RowsOf(picture, between, SeriesColours[Index(Series::Resultant)]).size(), 1);
     }
 
     void StretchesThatTouchAFlaggedLineAreLightened()
@@ -133,7 +80,7 @@ private slots:
             app.ShowAlone(Series::X);
             const QImage picture = app.Picture();
             const int row = CoarseRow(10.0);
-            const QColor plain = Colours[Index(Series::X)];
+            const QColor plain = SeriesColours[Index(Series::X)];
             const QColor light((0xC5 + 1020) / 5, (0x0C + 1020) / 5, (0xC5 + 1020) / 5);
             QCOMPARE(picture.pixelColor(app.Column(8500), row), plain);
             QCOMPARE(picture.pixelColor(app.Column(9500), row), light);
@@ -155,7 +102,7 @@ private slots:
         CChartApp app(lines);
         app.ShowAlone(Series::X);
         const QImage picture = app.Picture();
-        const QColor colour = Colours[Index(Series::X)];
+        const QColor colour = SeriesColours[Index(Series::X)];
         const int column = app.Column(9999);
         QCOMPARE(app.Column(10000), column);
         const QSet<int> rows = RowsOf(picture, column, colour);
@@ -167,33 +114,69 @@ private slots:
         QVERIFY(!RowsOf(picture, last, colour).contains(CoarseRow(5.0)));
     }
 
-    void BarsReachFromTheZeroLineToTheValueShortOnesInFront()
+    void AValueOffTheAxisIsCutOffAtThePlot()
     {
-        std::vector<ChartLine> lines = SecondLines(20, Level);
-        for (ChartLine& line : lines)
-            line.ms *= 10;
+        std::vector<ChartLine> lines = SecondLines(20);
+        for (std::size_t i = 1; i < lines.size(); i += 2)
+            lines[i].temperature = 120.0; // 60 units of an axis that ends at 50
         CChartApp app(lines);
-        app.Chart().SetBarChart(true);
-        const QImage picture = app.Picture();
-        const int column = app.Column(60'000);
-        const auto colourAt = [&](double value) {
-            return picture.pixelColor(column, CoarseRow(value));
+        app.ShowAlone(Series::Temperature);
+        const QColor colour = SeriesColours[Index(Series::Temperature)];
+        const auto plot = [&](int row) {
+            return ColumnsOf(app.Picture(), row, colour) & Span(app.PlotLeft(), app.PlotRight());
         };
-        QCOMPARE(colourAt(35.0), Colours[Index(Series::Humidity)]);
-        QCOMPARE(colourAt(27.0), Colours[Index(Series::Temperature)]);
-        QCOMPARE(colourAt(22.0), Colours[Index(Series::Resultant)]);
-        QCOMPARE(colourAt(15.0), Colours[Index(Series::Z)]);
-        QCOMPARE(colourAt(5.0), Colours[Index(Series::X)]);
-        QCOMPARE(colourAt(-5.0), Colours[Index(Series::Y)]);
-        QCOMPARE(colourAt(42.0), White);
-        // A bar is half as wide as the smallest step, which counts for 5 seconds at most.
-        const double pixelsPerMs = (app.PlotRight() - app.PlotLeft()) / 192'500.0;
-        const int half = static_cast<int>(1250 * pixelsPerMs + 0.5);
-        const int row = CoarseRow(37.0);
-        QCOMPARE(picture.pixelColor(column - half - 1, row), White);
-        QCOMPARE(picture.pixelColor(column - half, row), Colours[Index(Series::Humidity)]);
-        QCOMPARE(picture.pixelColor(column + half, row), Colours[Index(Series::Humidity)]);
-        QCOMPARE(picture.pixelColor(column + half + 1, row), White);
+        QVERIFY(!plot(CChartApp::PlotTop - 3).isEmpty());
+        for (int row = 0; row < CChartApp::PlotTop - 3; ++row)
+            QVERIFY(plot(row).isEmpty());
+        app.Chart().SetBarChart(true);
+        QCOMPARE(RowsOf(app.Picture(), app.Column(5000), colour),
+                 Span(CChartApp::PlotTop - 3, CChartApp::CoarseZero));
+    }
+
+    void AStretchBetweenTwoFarLinesHasTheSlopeOfSixteenBits()
+    {
+        constexpr std::int64_t Day = 86'400'000;
+        const std::vector<ChartLine> lines{{0, -20.0}, {Day, 20.0}};
+        CChartApp app(lines);
+        app.ShowAlone(Series::X);
+        for (int i = 0; i < 10; ++i)
+            QVERIFY(app.Chart().ZoomInTime());
+        app.Bar(Qt::Horizontal).setSliderPosition(static_cast<int>(Day / 4));
+        const CTimeWindow& window = app.Chart().Model().m_window;
+        QCOMPARE(window.m_viewStart, ChartStart() + Day / 4);
+        QVERIFY(window.Column(ChartStart()) < -32768);
+        QVERIFY(window.Column(ChartStart() + Day) > 32767);
+        // A quarter of the way the value is -10, but the ends drawn lie at columns -32767 and
+        // 32767, and so the plot in the middle of the way.
+        const int column = (app.PlotLeft() + app.PlotRight()) / 2;
+        const double way = (column - CChartApp::Gauge + 32767) / 65534.0;
+        const int row = qRound(CoarseRow(-20.0) + way * (CoarseRow(20.0) - CoarseRow(-20.0)));
+        QCOMPARE(RowsOf(app.Picture(), column, SeriesColours[Index(Series::X)]), QSet<int>{row});
+        QVERIFY(row < CoarseRow(-2.0));
+    }
+
+    void HumidityIsLabelledAtWholePercentsAlone()
+    {
+        CChartApp app(SecondLines(20));
+        HideAll(app);
+        app.Chart().ChangeScaleStep(8); // a tick is 0.4 percent
+        app.Bar(Qt::Vertical).setSliderPosition(app.Bar(Qt::Vertical).value() - 200);
+        const CValueScale& scale = app.Chart().Model().m_scale;
+        const QImage picture = app.Picture();
+        const int label = QFontMetrics(app.Chart().font()).horizontalAdvance("-99.9");
+        const QRect column(QPoint(app.PlotRight() + label + 8, 0),
+                           QPoint(app.PlotRight() + 2 * label + 12, 0));
+        const auto isLabelled = [&](int tick) {
+            const int row = scale.Row(tick * 0.1) - scale.m_scrollY;
+            const QImage place = picture.copy(column.left(), row - 7, column.width(), 13);
+            QImage blank = place;
+            blank.fill(Qt::white);
+            return place != blank;
+        };
+        for (int tick = 0; tick <= 7; ++tick)
+            QCOMPARE(isLabelled(tick), tick % 5 == 0);
+        for (int tick = -3; tick < 0; ++tick)
+            QVERIFY(!isLabelled(tick));
     }
 
     void TheCursorHasCapsAndTakesTheItemColour()
@@ -203,33 +186,17 @@ private slots:
         app.Chart().OnMeasureGraph(MeasureGraphCode::CurrentLine, 6);
         const int column = app.Column(6000);
         const QImage picture = app.Picture();
-        QCOMPARE(RowsOf(picture, column, Cursor) & Span(0, 330), Span(21, 325));
+        QCOMPARE(RowsOf(picture, column, Black) & Span(0, 330), Span(21, 325));
         const QSet<int> caps = Span(21, 26) | Span(320, 325);
         for (const int beside : {column - 2, column - 1, column + 1, column + 2})
-            QCOMPARE(RowsOf(picture, beside, Cursor) & Span(0, 330), caps);
+            QCOMPARE(RowsOf(picture, beside, Black) & Span(0, 330), caps);
         for (const int beside : {column - 3, column + 3})
-            QVERIFY((RowsOf(picture, beside, Cursor) & Span(0, 330)).isEmpty());
+            QVERIFY((RowsOf(picture, beside, Black) & Span(0, 330)).isEmpty());
 
         ChartColours colours;
         colours.item = 0x0102FD;
         app.Chart().SetColors(colours);
         QCOMPARE(app.Picture().pixelColor(column, 200), QColor(0xFD, 0x02, 0x01));
-    }
-
-    void AThinBarStaysVisibleThroughTheCursor()
-    {
-        CChartApp app(SecondLines(3000, Level));
-        app.ShowAlone(Series::X);
-        app.Chart().SetBarChart(true);
-        app.Chart().OnMeasureGraph(MeasureGraphCode::CurrentLine, 1500);
-        const QSet<int> rows = RowsOf(app.Picture(), app.Column(1500 * 1000), Cursor);
-        const QSet<int> bar = Span(CoarseRow(10.0), CChartApp::CoarseZero);
-        QVERIFY((rows & bar).isEmpty());
-        QVERIFY(rows.contains(Span(26, CoarseRow(10.0))));
-        QVERIFY(rows.contains(Span(CChartApp::CoarseZero, 323)));
-
-        app.Chart().SetBarChart(false);
-        QVERIFY(RowsOf(app.Picture(), app.Column(1500 * 1000), Cursor).contains(bar));
     }
 
     void TheSelectionHasEdgesAndATintBetweenThem()
@@ -240,19 +207,17 @@ private slots:
         const int a = app.Column(4500);
         const int b = app.Column(8500);
         QTest::mousePress(&app.Chart(), Qt::LeftButton, {}, app.InPlot(a));
-        QCOMPARE(RowsOf(app.Picture(), a, Edge), Span(24, 324));
+        QCOMPARE(RowsOf(app.Picture(), a, SelectionEdge), Span(24, 324));
         QTest::mouseMove(&app.Chart(), app.InPlot(b));
         const QImage picture = app.Picture();
-        QCOMPARE(ColumnsOf(picture, 30, Edge), (QSet<int>{a, b}));
-        QCOMPARE(RowsOf(picture, b, Edge), Span(24, 324));
-        const auto tinted = [](int channel, int tint) { return (channel * 230 + tint * 25) / 255; };
-        const QColor veil(tinted(255, 0x40), tinted(255, 0x40), tinted(255, 0x80));
-        QVERIFY(IsNear(picture.pixelColor(a + 1, 30), veil));
-        QVERIFY(IsNear(picture.pixelColor(b - 1, 30), veil));
+        QCOMPARE(ColumnsOf(picture, 30, SelectionEdge), (QSet<int>{a, b}));
+        QCOMPARE(RowsOf(picture, b, SelectionEdge), Span(24, 324));
+        QVERIFY(IsNear(picture.pixelColor(a + 1, 30), TintedWhite()));
+        QVERIFY(IsNear(picture.pixelColor(b - 1, 30), TintedWhite()));
         QCOMPARE(picture.pixelColor(a - 1, 30), White);
         QCOMPARE(picture.pixelColor(b + 1, 30), White);
         QTest::mouseRelease(&app.Chart(), Qt::LeftButton, {}, app.InPlot(b));
-        QVERIFY(ColumnsOf(app.Picture(), 30, Edge).isEmpty());
+        QVERIFY(ColumnsOf(app.Picture(), 30, SelectionEdge).isEmpty());
     }
 
     void CornerButtonsShowWhatCanBeDone()
@@ -305,7 +270,7 @@ private slots:
             CChartApp::CoarsePlotBottom + QFontMetrics(app.Chart().font()).height() / 2;
         bool hasText = false;
         for (int row = content; row < content + 60; ++row)
-            hasText |= !ColumnsOf(picture, row, Cursor).isEmpty();
+            hasText |= !ColumnsOf(picture, row, Black).isEmpty();
         QVERIFY(hasText);
     }
 
@@ -318,8 +283,8 @@ private slots:
         QVERIFY(app.Chart().Model().m_scale.m_scrollY > CChartApp::PlotTop);
         const QImage picture = app.Picture();
         const int column = app.Column(6000);
-        QCOMPARE(RowsOf(picture, column + 2, Cursor) & Span(0, 20), Span(0, 2));
-        QVERIFY(!RowsOf(picture, column, Cursor).isEmpty());
+        QCOMPARE(RowsOf(picture, column + 2, Black) & Span(0, 20), Span(0, 2));
+        QVERIFY(!RowsOf(picture, column, Black).isEmpty());
     }
 
     void NoLinesLeaveAnAxisAlone()
@@ -327,15 +292,15 @@ private slots:
         CChartApp app({});
         const QImage picture = app.Picture();
         const int middle = (app.PlotLeft() + app.PlotRight()) / 2;
-        QVERIFY(RowsOf(picture, middle, Grid).contains(CoarseRow(0.0) - 1));
-        QVERIFY(ColumnsOf(picture, 30, Grid).isEmpty());
+        QVERIFY(RowsOf(picture, middle, GridGrey).contains(CoarseRow(0.0) - 1));
+        QVERIFY(ColumnsOf(picture, 30, GridGrey).isEmpty());
         QCOMPARE(app.Chart().Model().Count(), 0);
     }
 
     void OneLineIsNoCurveAndOneBar()
     {
         CChartApp app(SecondLines(1, Level));
-        const QColor colour = Colours[Index(Series::X)];
+        const QColor colour = SeriesColours[Index(Series::X)];
         app.ShowAlone(Series::X);
         QVERIFY(ColumnsOf(app.Picture(), CoarseRow(5.0), colour).isEmpty());
         app.Chart().SetBarChart(true);
@@ -393,7 +358,7 @@ private slots:
         app.ShowAlone(Series::X);
         const QImage picture = app.Picture();
         const int row = CoarseRow(10.0);
-        const QSet<int> columns = ColumnsOf(picture, row, Colours[Index(Series::X)]);
+        const QSet<int> columns = ColumnsOf(picture, row, SeriesColours[Index(Series::X)]);
         QVERIFY(columns.contains(Span(app.PlotLeft() + 1, app.PlotRight() - 1)));
     }
 };

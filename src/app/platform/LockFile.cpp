@@ -20,39 +20,33 @@ std::filesystem::path RuntimeFolder()
     return folder;
 }
 
-CLockFile::~CLockFile()
-{
-    Close();
-}
-
 bool CLockFile::Open(const std::string& name)
 {
     Close();
     const std::filesystem::path path = RuntimeFolder() / name;
-    m_descriptor = open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, S_IRUSR | S_IWUSR);
-    return m_descriptor >= 0;
+    m_descriptor = CDescriptor(
+        open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, S_IRUSR | S_IWUSR));
+    return m_descriptor.IsOpen();
 }
 
 CLockFile::Outcome CLockFile::TryLock()
 {
-    if (m_descriptor < 0)
+    if (!m_descriptor.IsOpen())
         return Outcome::Failed;
-    if (flock(m_descriptor, LOCK_EX | LOCK_NB) == 0)
+    if (flock(m_descriptor.Get(), LOCK_EX | LOCK_NB) == 0)
         return Outcome::Taken;
     return errno == EWOULDBLOCK ? Outcome::HeldElsewhere : Outcome::Failed;
 }
 
 void CLockFile::Unlock()
 {
-    if (m_descriptor >= 0)
-        flock(m_descriptor, LOCK_UN);
+    if (m_descriptor.IsOpen())
+        flock(m_descriptor.Get(), LOCK_UN);
 }
 
 void CLockFile::Close()
 {
-    if (m_descriptor >= 0)
-        close(m_descriptor);
-    m_descriptor = -1;
+    m_descriptor = CDescriptor();
 }
 
 } // namespace skeldon

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/platform/Descriptor.h"
+
 #include <filesystem>
 #include <string>
 
@@ -20,7 +22,6 @@ public:
     CLockFile() = default;
     CLockFile(const CLockFile&) = delete;
     CLockFile& operator=(const CLockFile&) = delete;
-    ~CLockFile();
 
     /// Opens the lock `name` without taking it. False where that can not be done.
     bool Open(const std::string& name);
@@ -30,7 +31,7 @@ public:
     void Close();
 
 private:
-    int m_descriptor = -1;
+    CDescriptor m_descriptor;
 };
 
 /// The folder for what lives only as long as the user is logged in.

@@ -12,16 +12,17 @@ namespace skeldon {
 
 CSharedBlock::CSharedBlock(const std::string& name)
 {
-    m_descriptor = shm_open(('/' + name).c_str(), O_RDWR | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR);
-    if (m_descriptor < 0)
+    m_descriptor = CDescriptor(
+        shm_open(('/' + name).c_str(), O_RDWR | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR));
+    if (!m_descriptor.IsOpen())
         return;
     struct stat status = {};
-    const bool hasRoom =
-        fstat(m_descriptor, &status) == 0 &&
-        (status.st_size >= off_t{sizeof(Words)} || ftruncate(m_descriptor, sizeof(Words)) == 0);
-    void* const memory =
-        hasRoom ? mmap(nullptr, sizeof(Words), PROT_READ | PROT_WRITE, MAP_SHARED, m_descriptor, 0)
-                : MAP_FAILED;
+    const bool hasRoom = fstat(m_descriptor.Get(), &status) == 0 &&
+                         (status.st_size >= off_t{sizeof(Words)} ||
+                          ftruncate(m_descriptor.Get(), sizeof(Words)) == 0);
+    void* const memory = hasRoom ? mmap(nullptr, sizeof(Words), PROT_READ | PROT_WRITE, MAP_SHARED,
+                                        m_descriptor.Get(), 0)
+                                 : MAP_FAILED;
     if (memory == MAP_FAILED)
         return;
     m_words = static_cast<std::uint32_t*>(memory);
@@ -34,14 +35,12 @@ CSharedBlock::~CSharedBlock()
 {
     if (m_words != nullptr)
         munmap(m_words, sizeof(Words));
-    if (m_descriptor >= 0)
-        close(m_descriptor);
 }
 
 bool CSharedBlock::IsAlone() const
 {
-    const bool isAlone = flock(m_descriptor, LOCK_EX | LOCK_NB) == 0;
-    flock(m_descriptor, LOCK_SH | LOCK_NB);
+    const bool isAlone = flock(m_descriptor.Get(), LOCK_EX | LOCK_NB) == 0;
+    flock(m_descriptor.Get(), LOCK_SH | LOCK_NB);
     return isAlone;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/platform/Descriptor.h"
+
 #include <array>
 #include <cstdint>
 #include <string>
@@ -26,7 +28,7 @@ public:
     [[nodiscard]] bool IsAlone() const;
 
 private:
-    int m_descriptor = -1;
+    CDescriptor m_descriptor;
     std::uint32_t* m_words = nullptr;
 };
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "files/platform/Descriptor.h"
+#include "base/platform/Descriptor.h"
 
 #include <cstddef>
 #include <cstdint>

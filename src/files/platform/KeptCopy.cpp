@@ -1,6 +1,6 @@
 #include "files/platform/KeptCopy.h"
 
-#include "files/platform/Descriptor.h"
+#include "base/platform/Descriptor.h"
 
 #include <array>
 #include <cstdlib>
@@ -23,20 +23,6 @@ std::filesystem::path FolderOf(const std::filesystem::path& path)
     return folder.empty() ? std::filesystem::path(".") : folder;
 }
 
-std::error_code WriteAll(int descriptor, const char* bytes, std::size_t size)
-{
-    while (size > 0) {
-        const ssize_t count = ::write(descriptor, bytes, size);
-        if (count < 0 && errno == EINTR)
-            continue;
-        if (count < 0)
-            return LastSystemError();
-        bytes += count;
-        size -= static_cast<std::size_t>(count);
-    }
-    return {};
-}
-
 /// Shares the file's blocks where the file system can, copies them else.
 std::error_code CopyContents(int from, int to)
 {
@@ -53,7 +39,7 @@ std::error_code CopyContents(int from, int to)
         if (count == 0)
             return {};
         if (const std::error_code error =
-                WriteAll(to, buffer.data(), static_cast<std::size_t>(count)))
+                WriteAll(to, {buffer.data(), static_cast<std::size_t>(count)}))
             return error;
     }
 }

@@ -37,15 +37,7 @@ std::error_code CSafeFile::Keep()
 
 std::error_code CSafeFile::Write(std::string_view bytes)
 {
-    while (!bytes.empty()) {
-        const ssize_t count = ::write(m_descriptor.Get(), bytes.data(), bytes.size());
-        if (count < 0 && errno == EINTR)
-            continue;
-        if (count < 0)
-            return LastSystemError();
-        bytes.remove_prefix(static_cast<std::size_t>(count));
-    }
-    return {};
+    return WriteAll(m_descriptor.Get(), bytes);
 }
 
 std::error_code CSafeFile::Commit()

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/platform/Descriptor.h"
 #include "files/Output.h"
-#include "files/platform/Descriptor.h"
 
 #include <filesystem>
 #include <string_view>

@@ -19,7 +19,7 @@ CControlFifo::CControlFifo(const std::filesystem::path& path, std::error_code& e
     error.clear();
     const bool isMade = ::mkfifo(path.c_str(), FifoMode) == 0;
     if (!isMade && errno != EEXIST) {
-        error = {errno, std::generic_category()};
+        error = LastSystemError();
         return;
     }
     if (isMade)
@@ -28,7 +28,7 @@ CControlFifo::CControlFifo(const std::filesystem::path& path, std::error_code& e
     CDescriptor descriptor(::open(path.c_str(), O_RDWR | O_NONBLOCK | O_CLOEXEC));
     struct stat status = {};
     if (!descriptor.IsOpen() || ::fstat(descriptor.Get(), &status) != 0)
-        error = {errno, std::generic_category()};
+        error = LastSystemError();
     else if (!S_ISFIFO(status.st_mode))
         error = std::make_error_code(std::errc::file_exists);
     else

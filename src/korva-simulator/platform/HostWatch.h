@@ -1,6 +1,6 @@
 #pragma once
 
-#include "korva-simulator/platform/Descriptor.h"
+#include "base/platform/Descriptor.h"
 
 #include <string>
 

@@ -13,11 +13,6 @@ namespace skeldon {
 
 namespace {
 
-std::error_code LastSystemError()
-{
-    return {errno, std::generic_category()};
-}
-
 bool WouldBlock()
 {
     return errno == EAGAIN || errno == EWOULDBLOCK || errno == EINTR;

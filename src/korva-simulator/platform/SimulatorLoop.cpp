@@ -112,7 +112,7 @@ bool CSimulatorLoop::Wait()
         ready = ::poll(entries.data(), entries.size(), Timeout());
     }
     if (ready < 0 && errno != EINTR)
-        Fail("poll", {errno, std::generic_category()});
+        Fail("poll", LastSystemError());
     return entries.front().revents == 0;
 }
 

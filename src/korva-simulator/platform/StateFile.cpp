@@ -1,8 +1,7 @@
 #include "korva-simulator/platform/StateFile.h"
 
-#include "korva-simulator/platform/Descriptor.h"
+#include "base/platform/Descriptor.h"
 
-#include <cerrno>
 #include <vector>
 
 #include <fcntl.h>
@@ -14,23 +13,6 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr mode_t NewFileMode = 0666;
-
-std::error_code LastSystemError()
-{
-    return {errno, std::generic_category()};
-}
-
-std::error_code WriteAll(int descriptor, std::string_view text)
-{
-    while (!text.empty()) {
-        const ssize_t count = ::write(descriptor, text.data(), text.size());
-        if (count >= 0)
-            text.remove_prefix(static_cast<std::size_t>(count));
-        else if (errno != EINTR)
-            return LastSystemError();
-    }
-    return ::fsync(descriptor) == 0 ? std::error_code() : LastSystemError();
-}
 
 } // namespace
 
@@ -69,6 +51,8 @@ std::error_code WriteWholeFile(const fs::path& path, std::string_view text)
         if (!file.IsOpen())
             return LastSystemError();
         error = WriteAll(file.Get(), text);
+        if (!error && ::fsync(file.Get()) != 0)
+            error = LastSystemError();
     }
     if (!error)
         fs::rename(fresh, path, error);

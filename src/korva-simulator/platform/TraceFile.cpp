@@ -1,7 +1,6 @@
 #include "korva-simulator/platform/TraceFile.h"
 
 #include <algorithm>
-#include <cerrno>
 
 #include <fcntl.h>
 
@@ -19,7 +18,7 @@ CTraceFile::CTraceFile(const std::filesystem::path& path, std::error_code& error
 {
     error.clear();
     if (!m_file.IsOpen())
-        error = {errno, std::generic_category()};
+        error = LastSystemError();
 }
 
 void CTraceFile::Bytes(std::int64_t timeUs, TraceDirection direction, std::string_view bytes)
@@ -42,13 +41,9 @@ void CTraceFile::Event(std::int64_t timeUs, std::string_view event)
 
 void CTraceFile::Flush()
 {
-    std::string_view rest = m_text;
-    while (m_file.IsOpen() && !rest.empty()) {
-        const ssize_t count = ::write(m_file.Get(), rest.data(), rest.size());
-        if (count >= 0) {
-            rest.remove_prefix(static_cast<std::size_t>(count));
-        } else if (errno != EINTR) {
-            m_error = {errno, std::generic_category()};
+    if (m_file.IsOpen()) {
+        if (const std::error_code error = WriteAll(m_file.Get(), m_text)) {
+            m_error = error;
             m_file = CDescriptor();
         }
     }

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/platform/Descriptor.h"
 #include "korva-simulator/TraceText.h"
-#include "korva-simulator/platform/Descriptor.h"
 
 #include <filesystem>
 #include <string>

@@ -4,6 +4,7 @@
 
 #include <cerrno>
 #include <chrono>
+#include <utility>
 
 #include <fcntl.h>
 #include <linux/major.h>
@@ -13,7 +14,6 @@
 #include <sys/ioctl.h>
 #include <sys/stat.h>
 #include <sys/sysmacros.h>
-#include <unistd.h>
 
 namespace skeldon {
 
@@ -25,11 +25,6 @@ constexpr int WriteWaitMs = 15000;
 std::error_code SystemError(int code)
 {
     return {code, std::generic_category()};
-}
-
-std::error_code LastSystemError()
-{
-    return SystemError(errno);
 }
 
 /// The cable or the other side of a pseudo terminal is gone.
@@ -78,46 +73,43 @@ bool WouldBlock()
 
 std::unique_ptr<CSerialPort> CPosixSerialPort::Open(const std::string& path, std::error_code& error)
 {
-    const int descriptor = ::open(path.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC);
-    if (descriptor < 0) {
+    CDescriptor descriptor(::open(path.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC));
+    if (!descriptor.IsOpen()) {
         error = LastSystemError();
         return nullptr;
     }
-    if (::isatty(descriptor) == 0) {
+    if (::isatty(descriptor.Get()) == 0) {
         error = SystemError(ENOTTY);
-        ::close(descriptor);
         return nullptr;
     }
     // The lock keeps a second copy of this program out even where it may open any device.
-    if (::flock(descriptor, LOCK_EX | LOCK_NB) != 0) {
+    if (::flock(descriptor.Get(), LOCK_EX | LOCK_NB) != 0) {
         error = WouldBlock() ? SystemError(EBUSY) : LastSystemError();
-        ::close(descriptor);
         return nullptr;
     }
-    std::unique_ptr<CPosixSerialPort> port(new CPosixSerialPort(descriptor));
-    if (MayBeMarkedExclusive(descriptor))
-        (void)::ioctl(descriptor, TIOCEXCL);
-    (void)SetUpTerminal(descriptor);
+    if (MayBeMarkedExclusive(descriptor.Get()))
+        (void)::ioctl(descriptor.Get(), TIOCEXCL);
+    (void)SetUpTerminal(descriptor.Get());
+    std::unique_ptr<CPosixSerialPort> port(new CPosixSerialPort(std::move(descriptor)));
     port->m_errorCounts = port->CountErrors();
     error.clear();
     return port;
 }
 
-CPosixSerialPort::CPosixSerialPort(int descriptor)
-    : m_descriptor(descriptor)
+CPosixSerialPort::CPosixSerialPort(CDescriptor descriptor)
+    : m_descriptor(std::move(descriptor))
 {}
 
 CPosixSerialPort::~CPosixSerialPort()
 {
-    (void)::ioctl(m_descriptor, TIOCNXCL);
-    ::close(m_descriptor);
+    (void)::ioctl(m_descriptor.Get(), TIOCNXCL);
 }
 
 CSerialPort::Transfer CPosixSerialPort::Read(std::span<char> buffer)
 {
     std::optional<Clock::time_point> end; // looked up only where there is something to wait for
     for (;;) {
-        const ssize_t count = ::read(m_descriptor, buffer.data(), buffer.size());
+        const ssize_t count = ::read(m_descriptor.Get(), buffer.data(), buffer.size());
         if (count > 0)
             return {static_cast<std::size_t>(count), {}};
         if (count == 0)
@@ -128,7 +120,7 @@ CSerialPort::Transfer CPosixSerialPort::Read(std::span<char> buffer)
             return {0, LastSystemError()};
         if (!end)
             end = FromNow(SerialSetting::ReadWaitMs);
-        const int ready = WaitFor(m_descriptor, POLLIN, *end);
+        const int ready = WaitFor(m_descriptor.Get(), POLLIN, *end);
         if (ready < 0)
             return {0, LastSystemError()};
         if (ready == 0 || Clock::now() >= *end)
@@ -141,11 +133,11 @@ CSerialPort::Transfer CPosixSerialPort::Write(std::string_view bytes)
     Transfer written;
     while (written.count < bytes.size()) {
         const std::string_view rest = bytes.substr(written.count);
-        const ssize_t count = ::write(m_descriptor, rest.data(), rest.size());
+        const ssize_t count = ::write(m_descriptor.Get(), rest.data(), rest.size());
         if (count > 0) {
             written.count += static_cast<std::size_t>(count);
         } else if (count == 0 || WouldBlock()) {
-            const int ready = WaitFor(m_descriptor, POLLOUT, FromNow(WriteWaitMs));
+            const int ready = WaitFor(m_descriptor.Get(), POLLOUT, FromNow(WriteWaitMs));
             if (ready <= 0) {
                 written.error = ready == 0 ? SystemError(ETIMEDOUT) : LastSystemError();
                 return written;
@@ -161,7 +153,7 @@ CSerialPort::Transfer CPosixSerialPort::Write(std::string_view bytes)
 std::optional<CSerialPort::LineState> CPosixSerialPort::ClearErrors()
 {
     int queued = 0;
-    if (::ioctl(m_descriptor, FIONREAD, &queued) != 0)
+    if (::ioctl(m_descriptor.Get(), FIONREAD, &queued) != 0)
         return std::nullopt;
     const ErrorCounts counts = CountErrors();
     const bool errors = counts != m_errorCounts;
@@ -173,7 +165,7 @@ CPosixSerialPort::ErrorCounts CPosixSerialPort::CountErrors() const
 {
     serial_icounter_struct counter{};
     // A device without such counters, as a pseudo terminal is, has no line errors.
-    if (::ioctl(m_descriptor, TIOCGICOUNT, &counter) != 0)
+    if (::ioctl(m_descriptor.Get(), TIOCGICOUNT, &counter) != 0)
         return {};
     return {counter.frame, counter.overrun, counter.parity, counter.brk, counter.buf_overrun};
 }

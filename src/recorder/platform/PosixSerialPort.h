@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/platform/Descriptor.h"
 #include "recorder/SerialPort.h"
 
 #include <array>
@@ -30,10 +31,10 @@ private:
     /// Overruns, parity, frame and break errors as the driver counts them.
     using ErrorCounts = std::array<int, 5>;
 
-    explicit CPosixSerialPort(int descriptor);
+    explicit CPosixSerialPort(CDescriptor descriptor);
     [[nodiscard]] ErrorCounts CountErrors() const;
 
-    int m_descriptor;
+    CDescriptor m_descriptor;
     ErrorCounts m_errorCounts{};
 };
 

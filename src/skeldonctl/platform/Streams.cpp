@@ -1,27 +1,11 @@
 #include "skeldonctl/platform/Streams.h"
 
-#include <cerrno>
+#include "base/platform/Descriptor.h"
+
 #include <csignal>
 #include <unistd.h>
 
 namespace skeldon {
-
-namespace {
-
-std::error_code WriteAll(int descriptor, std::string_view bytes)
-{
-    while (!bytes.empty()) {
-        const ssize_t count = ::write(descriptor, bytes.data(), bytes.size());
-        if (count < 0 && errno == EINTR)
-            continue;
-        if (count < 0)
-            return {errno, std::system_category()};
-        bytes.remove_prefix(static_cast<std::size_t>(count));
-    }
-    return {};
-}
-
-} // namespace
 
 std::error_code CStandardOutput::Write(std::string_view bytes)
 {

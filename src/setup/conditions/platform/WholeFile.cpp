@@ -1,12 +1,12 @@
 #include "setup/conditions/platform/WholeFile.h"
 
+#include "base/platform/Descriptor.h"
+
 #include <algorithm>
-#include <cerrno>
 #include <utility>
 
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace skeldon {
 
@@ -19,54 +19,14 @@ constexpr int MostPassingNames = 100;
 constexpr mode_t Permissions = 07777;
 constexpr std::size_t ReadStep = std::size_t{16} * 1024;
 
-std::error_code LastError()
-{
-    return {errno, std::generic_category()};
-}
-
-/// An open descriptor that closes itself.
-class COpenFile
-{
-public:
-    explicit COpenFile(int descriptor)
-        : m_descriptor(descriptor)
-    {}
-    ~COpenFile() { Close(); }
-    COpenFile(const COpenFile&) = delete;
-    COpenFile& operator=(const COpenFile&) = delete;
-
-    [[nodiscard]] bool IsOpen() const { return m_descriptor >= 0; }
-    [[nodiscard]] int Get() const { return m_descriptor; }
-    bool Close()
-    {
-        const int descriptor = std::exchange(m_descriptor, -1);
-        return descriptor < 0 || ::close(descriptor) == 0;
-    }
-
-private:
-    int m_descriptor;
-};
-
 std::error_code CheckRegular(int descriptor, struct stat& status)
 {
     if (::fstat(descriptor, &status) != 0)
-        return LastError();
+        return LastSystemError();
     if (S_ISDIR(status.st_mode))
         return std::make_error_code(std::errc::is_a_directory);
     if (!S_ISREG(status.st_mode))
         return std::make_error_code(std::errc::invalid_argument);
-    return {};
-}
-
-std::error_code WriteAll(int descriptor, std::string_view bytes)
-{
-    while (!bytes.empty()) {
-        const ssize_t count = ::write(descriptor, bytes.data(), bytes.size());
-        if (count < 0 && errno != EINTR)
-            return LastError();
-        if (count > 0)
-            bytes.remove_prefix(static_cast<std::size_t>(count));
-    }
     return {};
 }
 
@@ -86,15 +46,15 @@ std::error_code FollowLinks(fs::path& path)
 }
 
 /// Makes a file of a new name in `folder`. The name ends in nothing that any list shows.
-int MakePassingFile(const fs::path& folder, fs::path& name)
+CDescriptor MakePassingFile(const fs::path& folder, fs::path& name)
 {
     for (int i = 0; i < MostPassingNames; ++i) {
         name = folder / (".skeldon-" + std::to_string(::getpid()) + "-" + std::to_string(i));
-        const int descriptor = ::open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-        if (descriptor >= 0 || errno != EEXIST)
-            return descriptor;
+        CDescriptor file(::open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+        if (file.IsOpen() || errno != EEXIST)
+            return file;
     }
-    return -1;
+    return CDescriptor();
 }
 
 /// Gives the new file what the old one was allowed, before there is anything in it to read. To
@@ -102,10 +62,11 @@ int MakePassingFile(const fs::path& folder, fs::path& name)
 std::error_code TakeOver(int descriptor, const struct stat& old)
 {
     [[maybe_unused]] const int ignored = ::fchown(descriptor, old.st_uid, old.st_gid);
-    return ::fchmod(descriptor, old.st_mode & Permissions) == 0 ? std::error_code{} : LastError();
+    return ::fchmod(descriptor, old.st_mode & Permissions) == 0 ? std::error_code{}
+                                                                : LastSystemError();
 }
 
-std::error_code FillFile(COpenFile& file, const struct stat* old, std::string_view bytes)
+std::error_code FillFile(CDescriptor& file, const struct stat* old, std::string_view bytes)
 {
     if (old != nullptr) {
         if (const std::error_code error = TakeOver(file.Get(), *old))
@@ -113,15 +74,13 @@ std::error_code FillFile(COpenFile& file, const struct stat* old, std::string_vi
     }
     if (const std::error_code error = WriteAll(file.Get(), bytes))
         return error;
-    if (::fsync(file.Get()) != 0 || !file.Close())
-        return LastError();
-    return {};
+    return ::fsync(file.Get()) == 0 ? file.Close() : LastSystemError();
 }
 
 /// The rename is done; that a folder can not be synced on some file systems changes nothing.
 void SyncFolder(const fs::path& folder)
 {
-    const COpenFile opened(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    const CDescriptor opened(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (opened.IsOpen()) {
         [[maybe_unused]] const int ignored = ::fsync(opened.Get());
     }
@@ -131,9 +90,9 @@ void SyncFolder(const fs::path& folder)
 
 std::error_code ReadWholeFile(const fs::path& path, std::size_t limit, std::string& bytes)
 {
-    const COpenFile file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    const CDescriptor file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     if (!file.IsOpen())
-        return LastError();
+        return LastSystemError();
     struct stat status
     {};
     if (const std::error_code error = CheckRegular(file.Get(), status))
@@ -147,7 +106,7 @@ std::error_code ReadWholeFile(const fs::path& path, std::size_t limit, std::stri
         if (count < 0 && errno == EINTR)
             continue;
         if (count < 0)
-            return LastError();
+            return LastSystemError();
         if (count == 0)
             break;
         size += static_cast<std::size_t>(count);
@@ -164,21 +123,21 @@ std::error_code ReplaceWholeFile(const fs::path& path, std::string_view bytes)
         return error;
     struct stat old
     {};
-    const COpenFile existing(::open(target.c_str(), O_RDWR | O_NONBLOCK | O_CLOEXEC));
+    const CDescriptor existing(::open(target.c_str(), O_RDWR | O_NONBLOCK | O_CLOEXEC));
     if (!existing.IsOpen() && errno != ENOENT)
-        return LastError();
+        return LastSystemError();
     if (existing.IsOpen()) {
         if (const std::error_code error = CheckRegular(existing.Get(), old))
             return error;
     }
     const fs::path folder = target.has_parent_path() ? target.parent_path() : fs::path(".");
     fs::path passing;
-    COpenFile file(MakePassingFile(folder, passing));
+    CDescriptor file = MakePassingFile(folder, passing);
     if (!file.IsOpen())
-        return LastError();
+        return LastSystemError();
     std::error_code error = FillFile(file, existing.IsOpen() ? &old : nullptr, bytes);
     if (!error && ::rename(passing.c_str(), target.c_str()) != 0)
-        error = LastError();
+        error = LastSystemError();
     if (error)
         ::unlink(passing.c_str());
     else
@@ -188,7 +147,7 @@ std::error_code ReplaceWholeFile(const fs::path& path, std::string_view bytes)
 
 std::error_code DeleteFile(const fs::path& path)
 {
-    return ::unlink(path.c_str()) == 0 || errno == ENOENT ? std::error_code{} : LastError();
+    return ::unlink(path.c_str()) == 0 || errno == ENOENT ? std::error_code{} : LastSystemError();
 }
 
 } // namespace skeldon

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cerrno>
+#include <string_view>
 #include <system_error>
 #include <utility>
 
@@ -14,7 +15,7 @@ namespace skeldon {
     return {errno, std::generic_category()};
 }
 
-/// An open file descriptor that closes itself.
+/// A file descriptor that is closed with its owner; below 0 is none.
 class CDescriptor
 {
 public:
@@ -46,5 +47,8 @@ public:
 private:
     int m_value;
 };
+
+/// Writes all bytes, also where the system takes them in pieces or a signal comes between.
+[[nodiscard]] std::error_code WriteAll(int descriptor, std::string_view bytes);
 
 } // namespace skeldon

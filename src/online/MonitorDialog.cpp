@@ -69,6 +69,7 @@ CMonitorDialog::CMonitorDialog()
     m_lines->SetMaxLines(
         App().Settings().GetInt(SystemSection, LinesKey, CMonitorLines::DefaultMaxLines));
     m_maxLinesEdit->setText(QString::number(m_lines->Lines().m_maxLines));
+    StandInTheMiddle();
     if (!App().m_ctrlAtStart && !IsCtrlDown())
         RestorePlacement();
     connect(&m_timer, &QTimer::timeout, this, &CMonitorDialog::Tick);
@@ -78,7 +79,7 @@ CMonitorDialog::CMonitorDialog()
 
 CMonitorDialog::~CMonitorDialog()
 {
-    SavePlacement();
+    App().Settings().WriteProfileRect(SystemSection, PlaceKey, QRect(pos(), size()));
 }
 
 void CMonitorDialog::MakeControls()
@@ -141,6 +142,14 @@ void CMonitorDialog::LayOut()
     m_command->setFocus();
 }
 
+/// Where a window stands that has never been moved, so that there is a place to be remembered also
+/// of one that never came up.
+void CMonitorDialog::StandInTheMiddle()
+{
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    move(screen.center() - rect().center());
+}
+
 void CMonitorDialog::RestorePlacement()
 {
     const QRect stored = App().Settings().GetProfileRect(SystemSection, PlaceKey, {});
@@ -151,13 +160,8 @@ void CMonitorDialog::RestorePlacement()
     resize(stored.size().boundedTo((screen != nullptr ? *screen : other).availableSize()));
     if (screen != nullptr)
         move(stored.topLeft());
-}
-
-void CMonitorDialog::SavePlacement()
-{
-    // Where the window never came up its place is not known.
-    if (m_wasShown)
-        App().Settings().WriteProfileRect(SystemSection, PlaceKey, QRect(pos(), size()));
+    else
+        StandInTheMiddle();
 }
 
 void CMonitorDialog::SetEnabled(bool enabled)
@@ -196,7 +200,6 @@ void CMonitorDialog::ShowMonitor()
         winId();
         windowHandle()->setTransientParent(main->window()->windowHandle());
     }
-    m_wasShown = true;
     show();
     raise();
     activateWindow();

@@ -62,8 +62,8 @@ protected:
 private:
     void MakeControls();
     void LayOut();
+    void StandInTheMiddle();
     void RestorePlacement();
-    void SavePlacement();
     void ApplyEnabled();
     void OnSet();
     void OnCopy();
@@ -75,7 +75,6 @@ private:
     CMonitorModel* m_lines;
     bool m_enabled = true;    ///< no transfer is running
     bool m_connected = false; ///< a recorder is connected
-    bool m_wasShown = false;  ///< there is a place to be remembered
     QTimer m_timer;
 };
 

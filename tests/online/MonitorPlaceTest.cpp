@@ -53,7 +53,7 @@ private slots:
         QCOMPARE(PlaceOf(again.Monitor()), place);
     }
 
-    void PlaceIsLeftAloneWhereTheWindowNeverCameUp()
+    void PlaceOfAWindowThatNeverCameUpIsKept()
     {
         const QRect place(120, 90, 560, 420);
         COnlineApp app;
@@ -61,10 +61,29 @@ private slots:
         app.MakeMonitor();
         app.Link().SetMonitor(nullptr);
         QCOMPARE(app.Settings().GetProfileRect(SystemSection, Key, {}), place);
-        app.Settings().WriteProfileRect(SystemSection, Key, {});
+    }
+
+    void FirstPlaceIsTheMiddleOfTheScreen()
+    {
+        COnlineApp app;
+        app.MakeMonitor();
+        const QSize size = app.Monitor().size();
+        app.Link().SetMonitor(nullptr);
+        const QRect stored = app.Settings().GetProfileRect(SystemSection, Key, {});
+        QCOMPARE(stored.size(), size);
+        QCOMPARE(stored.center(), QGuiApplication::primaryScreen()->availableGeometry().center());
+    }
+
+    void PlaceWithoutTheOldOneIsRememberedToo()
+    {
+        COnlineApp app;
+        app.Settings().WriteProfileRect(SystemSection, Key, {120, 90, 560, 460});
+        app.m_app->m_ctrlAtStart = true;
         app.MakeMonitor();
         app.Link().SetMonitor(nullptr);
-        QVERIFY(app.Settings().GetProfileRect(SystemSection, Key, {}).isEmpty());
+        const QRect stored = app.Settings().GetProfileRect(SystemSection, Key, {});
+        QVERIFY(stored.size() != QSize(560, 460));
+        QVERIFY(stored.topLeft() != QPoint(120, 90));
     }
 
     void CtrlSetsThePlaceAside_data()

@@ -54,12 +54,6 @@ enum class PictureId
     IconZoomIn,
     IconZoomOut,
     IconProperties,
-    IconExtract,
-    IconChart,
-    IconList,
-    Icon3DView,
-    IconPrevious, ///< to the mark before
-    IconNext,     ///< to the mark behind
     IconStartPrompt,
     IconStartReserved,
     IconAdd,

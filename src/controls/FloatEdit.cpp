@@ -7,7 +7,7 @@
 namespace skeldon {
 
 CFloatEdit::CFloatEdit(QWidget* parent)
-    : CFilteredEdit(parent)
+    : CNumberEdit(parent)
 {
     setInputMethodHints(Qt::ImhFormattedNumbersOnly);
 }
@@ -44,16 +44,9 @@ bool CFloatEdit::PassesCharacter(QChar character, const QString& before, const Q
 
 QString CFloatEdit::Message() const
 {
-    const QString smallest = QString::fromStdString(Format(m_dMin));
-    const QString largest = QString::fromStdString(Format(m_dMax));
-    if (m_strName.isEmpty()) {
-        const QString pattern = Text(StringId::FloatRange);
-        return App().IsJapanese() ? FormatText(pattern, {smallest, largest})
-                                  : FormatText(pattern, {largest, smallest});
-    }
-    const QString pattern = Text(StringId::FloatRangeNamed);
-    return App().IsJapanese() ? FormatText(pattern, {m_strName, smallest, largest})
-                              : FormatText(pattern, {largest, smallest, m_strName});
+    return RangeMessage(StringId::FloatRange, StringId::FloatRangeNamed,
+                        QString::fromStdString(Format(m_dMin)),
+                        QString::fromStdString(Format(m_dMax)));
 }
 
 } // namespace skeldon

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "controls/FilteredEdit.h"
 #include "controls/FloatRule.h"
+#include "controls/NumberEdit.h"
 
 namespace skeldon {
 
 /// An edit box for a decimal number within a range.
-class CFloatEdit : public CFilteredEdit, public CFloatRule
+class CFloatEdit : public CNumberEdit, public CFloatRule
 {
     Q_OBJECT
 
@@ -20,8 +20,6 @@ public:
     /// Sets `value` to the number of the text, clamped into the range. False if the text is not
     /// valid: the user has been told then, and the box has the focus.
     bool GetValue(double& value);
-
-    QString m_strName; ///< of the value, for the message; may be empty
 
 protected:
     [[nodiscard]] bool PassesCharacter(QChar character, const QString& before,

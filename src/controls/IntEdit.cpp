@@ -1,13 +1,12 @@
 #include "controls/IntEdit.h"
 
-#include "app/SkeldonApp.h"
 #include "resources/StringTable.h"
 #include "resources/TextFormat.h"
 
 namespace skeldon {
 
 CIntEdit::CIntEdit(QWidget* parent)
-    : CFilteredEdit(parent)
+    : CNumberEdit(parent)
 {
     setInputMethodHints(Qt::ImhDigitsOnly);
 }
@@ -46,16 +45,8 @@ bool CIntEdit::PassesCharacter(QChar character, const QString& /*before*/, const
 QString CIntEdit::Message() const
 {
     // What "%d" makes of them.
-    const auto smallest = static_cast<std::int32_t>(m_nMin);
-    const auto largest = static_cast<std::int32_t>(m_nMax);
-    if (m_strName.isEmpty()) {
-        const QString pattern = Text(StringId::IntRange);
-        return App().IsJapanese() ? FormatText(pattern, {smallest, largest})
-                                  : FormatText(pattern, {largest, smallest});
-    }
-    const QString pattern = Text(StringId::IntRangeNamed);
-    return App().IsJapanese() ? FormatText(pattern, {m_strName, smallest, largest})
-                              : FormatText(pattern, {largest, smallest, m_strName});
+    return RangeMessage(StringId::IntRange, StringId::IntRangeNamed,
+                        static_cast<std::int32_t>(m_nMin), static_cast<std::int32_t>(m_nMax));
 }
 
 } // namespace skeldon

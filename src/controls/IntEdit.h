@@ -1,12 +1,12 @@
 #pragma once
 
-#include "controls/FilteredEdit.h"
 #include "controls/IntRule.h"
+#include "controls/NumberEdit.h"
 
 namespace skeldon {
 
 /// An edit box for a whole number within a range.
-class CIntEdit : public CFilteredEdit, public CIntRule
+class CIntEdit : public CNumberEdit, public CIntRule
 {
     Q_OBJECT
 
@@ -21,8 +21,6 @@ public:
     /// Sets `value` to the number of the text, clamped into the range. False if the text is not
     /// valid: the user has been told then, and the box has the focus.
     bool GetValue(std::uint32_t& value);
-
-    QString m_strName; ///< of the value, for the message; may be empty
 
 protected:
     [[nodiscard]] bool PassesCharacter(QChar character, const QString& before,

@@ -137,6 +137,9 @@ private:
     void Warn(StringId text);
 
     // Get data and online recording.
+    /// Saves and drops what is there. False where the user cancels or the recorder is gone: the
+    /// data is still there then.
+    [[nodiscard]] bool MakeRoomForTransfer();
     void GetData();
     void RecordOnline();
     void RunReadBack(int expected);

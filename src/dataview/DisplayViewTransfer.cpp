@@ -48,15 +48,22 @@ private:
 
 } // namespace
 
-void CDisplayView::GetData()
+bool CDisplayView::MakeRoomForTransfer()
 {
     if (!CanGetData() || !QuerySave())
-        return;
+        return false;
     if (!App().Frame()->IsConnected()) {
         Warn(StringId::CannotConnect);
-        return;
+        return false;
     }
     ClearData();
+    return true;
+}
+
+void CDisplayView::GetData()
+{
+    if (!MakeRoomForTransfer())
+        return;
     CRecorderLink& link = App().Link();
     int expected = 0;
     {
@@ -115,13 +122,8 @@ void CDisplayView::ReadBackLoop(CProgressWindow& window, int expected)
 
 void CDisplayView::RecordOnline()
 {
-    if (!CanGetData() || !QuerySave())
+    if (!MakeRoomForTransfer())
         return;
-    if (!App().Frame()->IsConnected()) {
-        Warn(StringId::CannotConnect);
-        return;
-    }
-    ClearData();
     CRecorderLink& link = App().Link();
     m_data.m_typeNumber = link.m_type;
     m_data.m_modelName = link.GetModelName();

@@ -1,3 +1,4 @@
+#include "base/TextScan.h"
 #include "korva-simulator/SimulatedRecorder.h"
 #include "korva-simulator/StatusText.h"
 #include "setup/tables/IntervalTable.h"
@@ -6,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <string_view>
 #include <utility>
 
 namespace skeldon {
@@ -13,12 +15,9 @@ namespace skeldon {
 namespace {
 
 /// The number that `digits` digits of `text` from `position` on make.
-int Number(const std::string& text, std::size_t position, std::size_t digits)
+int Number(std::string_view text, std::size_t position, std::size_t digits)
 {
-    int number = 0;
-    for (const char digit : text.substr(position, digits))
-        number = number * 10 + (digit - '0');
-    return number;
+    return ScanInt(text.substr(position, digits));
 }
 
 bool HasInterval(const RecorderState& state, char interval)

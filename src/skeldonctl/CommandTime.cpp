@@ -1,4 +1,5 @@
 // Times on the command line.
+#include "base/TextScan.h"
 #include "skeldonctl/CommandLine.h"
 
 #include <algorithm>
@@ -22,10 +23,7 @@ bool HasForm(std::string_view text, std::string_view form)
 
 int NumberAt(std::string_view text, std::size_t position, std::size_t digits)
 {
-    int number = 0;
-    for (const char digit : text.substr(position, digits))
-        number = number * 10 + (digit - '0');
-    return number;
+    return ScanInt(text.substr(position, digits));
 }
 
 } // namespace

@@ -7,8 +7,6 @@
 
 namespace skeldon {
 
-namespace {
-
 ExitStatus TellOutcome(const std::filesystem::path& path, std::error_code error)
 {
     if (error)
@@ -16,8 +14,6 @@ ExitStatus TellOutcome(const std::filesystem::path& path, std::error_code error)
     Tell("wrote " + path.string());
     return ExitStatus::Done;
 }
-
-} // namespace
 
 std::filesystem::path TargetOf(const std::filesystem::path& path, std::string_view extension)
 {

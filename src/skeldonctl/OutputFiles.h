@@ -5,8 +5,13 @@
 #include "skeldonctl/ExitStatus.h"
 
 #include <filesystem>
+#include <string_view>
+#include <system_error>
 
 namespace skeldon {
+
+/// Tells that `path` was written, or why it could not be.
+ExitStatus TellOutcome(const std::filesystem::path& path, std::error_code error);
 
 /// Saves the data set as a data file, under `path` with the extension "skd" as the window does,
 /// tells where, and takes over name and signature. What is no regular file, such as a device, is

@@ -78,10 +78,7 @@ ExitStatus Save(const QImage& picture, const std::filesystem::path& path)
     QBuffer buffer(&bytes);
     if (picture.isNull() || !buffer.open(QIODevice::WriteOnly) || !picture.save(&buffer, "PNG"))
         return FailOn(path, "not enough memory for the picture");
-    if (const std::error_code error = Write(path, bytes))
-        return FailOn(path, "Failed to write: " + error.message());
-    Tell("wrote " + path.string());
-    return ExitStatus::Done;
+    return TellOutcome(path, Write(path, bytes));
 }
 
 } // namespace

@@ -21,10 +21,10 @@ namespace skeldon {
 
 class CMeasureCondition;
 
-/// The one connection to a recorder: its commands, its status and its transfers. All operations
-/// belong to one thread, the user interface's; they block until the recorder has answered, at
-/// most the silence of 15 s. Every operation opens the port if it is closed, which takes 300 ms
-/// and sends the wake-up byte.
+/// The one connection to a recorder: its commands, its status and its transfers. It belongs to one
+/// thread at a time: in the window to that of the conversation, or to the window's while there is
+/// none. Operations block until the recorder has answered, at most the silence of 15 s. Every
+/// operation opens the port if it is closed, which takes 300 ms and sends the wake-up byte.
 class CRecorderLink : public CRecorderTransport, public RecorderStatus
 {
 public:

@@ -4,6 +4,7 @@
 #include "controls/Pixels.h"
 #include "controls/SamplingPanel.h"
 #include "resources/StringTable.h"
+#include "support/window/PaintCounter.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -146,18 +147,8 @@ void LcdPanelTest::RedrawCanBeLeftForLater()
     CLcdPanel panel(LcdPanelKind::Id);
     panel.SetValue(42);
     QVERIFY(ShowActive(panel));
-    class CPaints : public QObject
-    {
-    public:
-        bool eventFilter(QObject* /*watched*/, QEvent* event) override
-        {
-            m_count += event->type() == QEvent::Paint ? 1 : 0;
-            return false;
-        }
-        int m_count = 0;
-    } paints;
     QCoreApplication::processEvents();
-    panel.installEventFilter(&paints);
+    const CPaintCounter paints(panel);
     panel.SetBlank(false);
     panel.SetDigitColour(DigitColour::Red, false);
     panel.SetDisplay(PictureId::LcdStartOption, false);

@@ -2,6 +2,7 @@
 #include "controls/Pixels.h"
 #include "resources/StringTable.h"
 #include "resources/Translation.h"
+#include "support/window/PaintCounter.h"
 
 #include <QAccessible>
 #include <QElapsedTimer>
@@ -16,19 +17,6 @@ using namespace skeldon;
 using namespace skeldon::test;
 
 namespace {
-
-/// Counts how often a widget is painted.
-class CPaintCount : public QObject
-{
-public:
-    explicit CPaintCount(QWidget& widget) { widget.installEventFilter(this); }
-    bool eventFilter(QObject* /*watched*/, QEvent* event) override
-    {
-        m_count += event->type() == QEvent::Paint ? 1 : 0;
-        return false;
-    }
-    int m_count = 0;
-};
 
 /// Runs a strip modally with a job in it.
 int RunWith(CProgressWindow& strip, const std::function<void()>& job)
@@ -123,7 +111,7 @@ void ProgressWindowTest::CallsOwnerOnceAndCloses()
 void ProgressWindowTest::JobBeginsWhenStripIsOnScreen()
 {
     CProgressWindow strip(nullptr);
-    const CPaintCount paints(strip);
+    const CPaintCounter paints(strip);
     bool wasVisible = false;
     int paintsBefore = 0;
     qint64 waited = 0;
@@ -244,7 +232,7 @@ void ProgressWindowTest::PaintsOnlyWhatLooksDifferent()
     strip.SetRange(366 * 100);
     RunWith(strip, [&] {
         QCoreApplication::processEvents();
-        const CPaintCount paints(strip);
+        const CPaintCounter paints(strip);
         strip.SetPosition(50);
         strip.SetPosition(99);
         QCOMPARE(paints.m_count, 0);
@@ -267,7 +255,7 @@ void ProgressWindowTest::MillionLinesPaintFewTimes()
     strip.SetRange(Lines);
     int paints = 0;
     RunWith(strip, [&] {
-        const CPaintCount counter(strip);
+        const CPaintCounter counter(strip);
         for (int i = 0; i < Lines; i += 40)
             strip.SetPosition(i);
         paints = counter.m_count;
@@ -293,7 +281,7 @@ void ProgressWindowTest::TextWaitsForRepaint()
     CProgressWindow strip(nullptr);
     RunWith(strip, [&] {
         QCoreApplication::processEvents();
-        const CPaintCount paints(strip);
+        const CPaintCounter paints(strip);
         strip.SetTextColor(0xFFFFFF, false);
         strip.SetText(QStringLiteral("later"), false);
         QCoreApplication::processEvents();

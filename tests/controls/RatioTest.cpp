@@ -4,8 +4,8 @@
 #include "controls/ProgressWindow.h"
 #include "controls/SkinButton.h"
 #include "controls/SpinButton.h"
+#include "support/window/EachRatio.h"
 
-#include <QApplication>
 #include <QTest>
 
 using namespace skeldon;
@@ -142,14 +142,7 @@ void RatioTest::PicturesAreTakenPixelByPixel()
 
 int main(int argc, char** argv)
 {
-    int failed = 0;
-    for (const double ratio : {1.0, 1.5, 2.0}) {
-        qputenv("QT_SCALE_FACTOR", QByteArray::number(ratio));
-        const QApplication application(argc, argv);
-        RatioTest test(ratio);
-        failed += QTest::qExec(&test, argc, argv);
-    }
-    return failed;
+    return RunAtEachRatio<RatioTest>(argc, argv);
 }
 
 #include "RatioTest.moc"

@@ -1,3 +1,4 @@
+#include "DormantCommands.h"
 #include "MenuApp.h"
 
 #include "chart/view/ChartPropertyDialog.h"
@@ -44,16 +45,6 @@ Commands OfJapanese(const CMenuApp& app)
         return {};
     return {CommandId::DisplayAllArea, CommandId::DisplayInCenter};
 }
-
-/// All that can not be given by a menu, a button or a key.
-const Commands WithoutAction{
-    CommandId::AddMark,        CommandId::MarkExtracted,  CommandId::RemoveMark,
-    CommandId::RemoveAllMarks, CommandId::DeleteLine,     CommandId::DeleteSelected,
-    CommandId::DeleteIllegal,  CommandId::DisplayExtract, CommandId::DeleteMarked,
-    CommandId::DeleteUnmarked, CommandId::AddMarkAtClick, CommandId::RemoveMarkAtClick,
-    CommandId::PreviousMark,   CommandId::NextMark,       CommandId::Extract,
-    CommandId::ShowChart,      CommandId::ShowList,       CommandId::View3D,
-    CommandId::StartReal,      CommandId::StopReal,       CommandId::ConfigureReal};
 
 void AddLanguages()
 {
@@ -452,7 +443,7 @@ private slots:
         const QString title = app.Frame().windowTitle();
         const auto signature = app.View().Data().ComputeSignature();
         Commands allowed;
-        for (const CommandId command : WithoutAction) {
+        for (const CommandId command : DormantCommands) {
             QVERIFY(!inMenus.contains(command));
             if (app.Frame().StateOf(command).isEnabled)
                 allowed.insert(command);

@@ -1,3 +1,4 @@
+#include "DormantCommands.h"
 #include "ViewApp.h"
 #include "chart/view/ChartWnd.h"
 #include "controls/SkinButton.h"
@@ -104,15 +105,6 @@ CMeasureData RichData()
     measured.m_extract = ExtractConditionsFromString("16,1.0,1,2.0,0,");
     return measured;
 }
-
-const std::vector<CommandId> Dormant{
-    CommandId::AddMark,        CommandId::MarkExtracted,  CommandId::RemoveMark,
-    CommandId::RemoveAllMarks, CommandId::DeleteLine,     CommandId::DeleteSelected,
-    CommandId::DeleteIllegal,  CommandId::DisplayExtract, CommandId::DeleteMarked,
-    CommandId::DeleteUnmarked, CommandId::AddMarkAtClick, CommandId::RemoveMarkAtClick,
-    CommandId::PreviousMark,   CommandId::NextMark,       CommandId::Extract,
-    CommandId::ShowChart,      CommandId::ShowList,       CommandId::View3D,
-    CommandId::StartReal,      CommandId::StopReal,       CommandId::ConfigureReal};
 
 void GoTo(CViewApp& app, int row)
 {
@@ -323,7 +315,7 @@ private slots:
             const QByteArray file = BytesOf(app.Path(QStringLiteral("rich.skd")));
             const QStringList files = QDir(app.m_test.Folder()).entryList(QDir::Files);
             const QImage picture = app.Picture();
-            for (const CommandId command : Dormant) {
+            for (const CommandId command : DormantCommands) {
                 app.View().OnCommand(command);
                 app.Settle();
             }

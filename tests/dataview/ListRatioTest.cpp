@@ -1,6 +1,6 @@
 #include "ViewApp.h"
+#include "support/window/EachRatio.h"
 
-#include <QApplication>
 #include <QHeaderView>
 #include <QTest>
 
@@ -91,14 +91,7 @@ private:
 
 int main(int argc, char** argv)
 {
-    int failed = 0;
-    for (const double ratio : {1.0, 1.5, 2.0}) {
-        qputenv("QT_SCALE_FACTOR", QByteArray::number(ratio));
-        const QApplication application(argc, argv);
-        ListRatioTest test(ratio);
-        failed += QTest::qExec(&test, argc, argv);
-    }
-    return failed;
+    return RunAtEachRatio<ListRatioTest>(argc, argv);
 }
 
 #include "ListRatioTest.moc"

@@ -4,6 +4,7 @@
 #include "dataview/ManualPath.h"
 #include "dataview/MeasuredList.h"
 #include "recorder/TrafficSink.h"
+#include "support/window/DrawnMenu.h"
 
 #include <QClipboard>
 #include <QLineEdit>
@@ -45,18 +46,6 @@ QString Drawn(const QList<QAction*>& actions, int level = 0)
         lines += u'\n';
         if (action->menu() != nullptr)
             lines += Drawn(action->menu()->actions(), level + 1);
-    }
-    return lines;
-}
-
-QString Drawn(const Menu& menu, int level = 0)
-{
-    QString lines;
-    for (const MenuEntry& entry : menu) {
-        lines += QString(2 * level, u' ');
-        lines += entry.kind == MenuEntryKind::Separator ? QStringLiteral("-") : Text(entry.text);
-        lines += u'\n';
-        lines += Drawn(entry.entries, level + 1);
     }
     return lines;
 }

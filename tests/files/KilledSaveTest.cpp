@@ -1,7 +1,7 @@
 // A save that is killed, at random moments and at each of its system calls: the earlier or the new
 // contents are whole on disk.
 #include "files/DataFile.h"
-#include "files/StringOutput.h"
+#include "files/MeasuredLines.h"
 #include "support/TemporaryFolder.h"
 
 #include <cerrno>
@@ -18,24 +18,6 @@
 
 namespace skeldon::test {
 namespace {
-
-CMeasureData Lines(std::size_t count, double x)
-{
-    CMeasureData data;
-    CMeasureRecord line{CalendarSeconds{0}};
-    for (std::size_t i = 0; i < count; ++i) {
-        line.SetValues(1234567890 + static_cast<CalendarSeconds>(i), 0, x, 2.0, 3.0, 20.0, 0.0);
-        data.AddRecord(line);
-    }
-    return data;
-}
-
-std::string TextOf(const CMeasureData& data)
-{
-    CStringOutput output;
-    EXPECT_FALSE(FormatDataFile(data, 0, output));
-    return output.m_text;
-}
 
 /// Contents of `path`, empty where there is none.
 std::string ContentsOf(const std::filesystem::path& path)

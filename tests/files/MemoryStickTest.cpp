@@ -1,7 +1,7 @@
 // Saving on file systems that know neither unnamed files nor a second name for a file, as those of
 // memory sticks do. The calls that they refuse are refused here by a filter on a child's calls.
 #include "files/DataFile.h"
-#include "files/StringOutput.h"
+#include "files/MeasuredLines.h"
 #include "support/TemporaryFolder.h"
 
 #include <cerrno>
@@ -40,14 +40,6 @@ bool BecomeMemoryStick()
            ::prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &program) == 0;
 }
 
-CMeasureData Lines(std::size_t count)
-{
-    CMeasureData data;
-    for (std::size_t i = 0; i < count; ++i)
-        data.AddRecord(CMeasureRecord(1234567890));
-    return data;
-}
-
 constexpr int NoFilter = 100;
 
 /// Saves in a child on such a file system, where files can have `limit` bytes. Gives the number of
@@ -75,9 +67,8 @@ TEST(SaveOnMemoryStick, LeavesTheNewFileAlone)
     WriteText(folder / "a.skd", "earlier");
     WriteText(folder / "a.skd.bak", "kept before");
     ASSERT_EQ(SaveOnStick(folder / "a.skd", 3), 0);
-    CStringOutput expected;
-    ASSERT_FALSE(FormatDataFile(Lines(3), 0, expected));
-    EXPECT_EQ(ReadText(folder / "a.skd"), expected.m_text);
+    const std::string expected = TextOf(Lines(3));
+    EXPECT_EQ(ReadText(folder / "a.skd"), expected);
     EXPECT_EQ(folder.Names(), Names{"a.skd"});
 }
 

@@ -1,7 +1,7 @@
 // A file that is written anew never costs the user what it held.
 #include "files/CsvFile.h"
 #include "files/DataFile.h"
-#include "files/StringOutput.h"
+#include "files/MeasuredLines.h"
 #include "support/FileSizeLimit.h"
 #include "support/LessPower.h"
 #include "support/TemporaryFolder.h"
@@ -14,24 +14,6 @@ namespace skeldon::test {
 namespace {
 
 using Names = std::vector<std::string>;
-
-CMeasureData Lines(std::size_t count)
-{
-    CMeasureData data;
-    CMeasureRecord line{CalendarSeconds{0}};
-    for (std::size_t i = 0; i < count; ++i) {
-        line.SetValues(1234567890 + static_cast<CalendarSeconds>(i), 0, 1.0, 2.0, 3.0, 20.0, 0.0);
-        data.AddRecord(line);
-    }
-    return data;
-}
-
-std::string TextOf(const CMeasureData& data)
-{
-    CStringOutput output;
-    EXPECT_FALSE(FormatDataFile(data, 0, output));
-    return output.m_text;
-}
 
 std::error_code Save(const std::filesystem::path& path, std::size_t count)
 {

@@ -1,7 +1,7 @@
 #include "base/Version.h"
 #include "base/ZoneScope.h"
 #include "files/FileTexts.h"
-#include "files/StringOutput.h"
+#include "files/MeasuredLines.h"
 
 #include <cmath>
 
@@ -12,13 +12,6 @@ namespace {
 
 using testing::HasSubstr;
 using testing::Not;
-
-std::string TextOf(const CMeasureData& data, CalendarSeconds saveTime = 0)
-{
-    CStringOutput output;
-    EXPECT_FALSE(FormatDataFile(data, saveTime, output));
-    return output.m_text;
-}
 
 CMeasureRecord Line(double x = 1.0, std::uint16_t flags = 0)
 {

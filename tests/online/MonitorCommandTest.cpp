@@ -19,11 +19,12 @@ using namespace skeldon::test;
 
 namespace {
 
-bool ShowUp(COnlineApp& app)
+/// The monitor window with a recorder connected.
+bool ShowConnected(COnlineApp& app)
 {
-    app.Link().ShowMonitor();
+    const bool isUp = app.ShowUp();
     app.Monitor().SetConnected(true);
-    return QTest::qWaitForWindowActive(&app.Monitor());
+    return isUp;
 }
 
 /// Types a command and presses Enter. `meanwhile` is called again and again while it waits.
@@ -53,7 +54,7 @@ private slots:
         COnlineApp app;
         app.PlugIn();
         CMonitorDialog& monitor = app.MakeMonitor();
-        QVERIFY(ShowUp(app));
+        QVERIFY(ShowConnected(app));
         QStringList seen;
         Type(app, QStringLiteral("p"), [&] {
             // The reply's mark ends nothing.
@@ -77,7 +78,7 @@ private slots:
         COnlineApp app;
         app.PlugIn();
         CMonitorDialog& monitor = app.MakeMonitor();
-        QVERIFY(ShowUp(app));
+        QVERIFY(ShowConnected(app));
         const QAbstractItemModel& list = *monitor.m_list->model();
         QString last;
         Type(app, QStringLiteral("p"), [&] {
@@ -93,7 +94,7 @@ private slots:
         COnlineApp app;
         app.PlugIn();
         app.MakeMonitor();
-        QVERIFY(ShowUp(app));
+        QVERIFY(ShowConnected(app));
         bool isWaiting = false;
         Type(app, QString(), [&] {
             isWaiting = true;
@@ -109,7 +110,7 @@ private slots:
         COnlineApp app;
         app.PlugIn({"--fault", "silence=w"});
         CMonitorDialog& monitor = app.MakeMonitor();
-        QVERIFY(ShowUp(app));
+        QVERIFY(ShowConnected(app));
         CPaintCounter paints(monitor);
         int painted = 0;
         bool isTyped = false;
@@ -138,7 +139,7 @@ private slots:
     {
         COnlineApp app;
         CMonitorDialog& monitor = app.MakeMonitor();
-        QVERIFY(ShowUp(app));
+        QVERIFY(ShowConnected(app));
         Type(app, QStringLiteral("p"), [] {});
         QCOMPARE(monitor.m_command->text(), QString());
         QCOMPARE(app.m_prompts->Boxes(), QStringList());
@@ -151,7 +152,7 @@ private slots:
         COnlineApp app;
         app.PlugIn();
         CMonitorDialog& monitor = app.MakeMonitor();
-        QVERIFY(ShowUp(app));
+        QVERIFY(ShowConnected(app));
         monitor.m_command->setText(QStringLiteral("p"));
         monitor.SetConnected(false);
         QTest::keyClick(monitor.windowHandle(), Qt::Key_Enter);
@@ -166,7 +167,7 @@ private slots:
         COnlineApp app;
         app.PlugIn();
         CMonitorDialog& monitor = app.MakeMonitor();
-        QVERIFY(ShowUp(app));
+        QVERIFY(ShowConnected(app));
         app.m_prompts->m_answers = {Answer::No};
         QTest::mouseClick(monitor.m_calibrate, Qt::LeftButton);
         QCOMPARE(app.m_prompts->Boxes(),
@@ -181,7 +182,7 @@ private slots:
         COnlineApp app;
         app.PlugIn();
         CMonitorDialog& monitor = app.MakeMonitor();
-        QVERIFY(ShowUp(app));
+        QVERIFY(ShowConnected(app));
         bool isSeen = false;
         QTimer watch;
         connect(&watch, &QTimer::timeout, this, [&] {
@@ -202,7 +203,7 @@ private slots:
     {
         COnlineApp app;
         CMonitorDialog& monitor = app.MakeMonitor();
-        QVERIFY(ShowUp(app));
+        QVERIFY(ShowConnected(app));
         QTest::mouseClick(monitor.m_calibrate, Qt::LeftButton);
         QCOMPARE(app.m_prompts->Boxes().last(), QStringLiteral("Could not start calibrating."));
         QCOMPARE(app.m_prompts->m_shown.back().boxKind, BoxKind::Warning);

@@ -15,17 +15,6 @@
 using namespace skeldon;
 using namespace skeldon::test;
 
-namespace {
-
-/// The window as the user sees it.
-bool ShowUp(COnlineApp& app)
-{
-    app.Link().ShowMonitor();
-    return QTest::qWaitForWindowActive(&app.Monitor());
-}
-
-} // namespace
-
 /// The monitor window: log, limits, buttons.
 class MonitorTest : public QObject
 {
@@ -51,7 +40,7 @@ private slots:
         app.MakeMonitor();
         QVERIFY(app.Link().ReadStatus());
         QCOMPARE(app.Log(), QStringList());
-        QVERIFY(ShowUp(app));
+        QVERIFY(app.ShowUp());
         QVERIFY(app.Link().m_monitorShown);
         QVERIFY(app.Link().ReadStatus());
         const QStringList log = app.Log();
@@ -90,7 +79,7 @@ private slots:
         COnlineApp app;
         app.PlugIn();
         CMonitorDialog& monitor = app.MakeMonitor();
-        QVERIFY(ShowUp(app));
+        QVERIFY(app.ShowUp());
         QVERIFY(app.Link().ReadStatus());
         const QStringList old = app.Log();
         QTest::mouseClick(monitor.m_close, Qt::LeftButton);
@@ -98,7 +87,7 @@ private slots:
         QVERIFY(!app.Link().m_monitorShown);
         QVERIFY(app.Link().ReadStatus());
         // The old log is still there.
-        QVERIFY(ShowUp(app));
+        QVERIFY(app.ShowUp());
         QCOMPARE(app.Log(), old);
         QTest::keyClick(monitor.m_alwaysWatched, Qt::Key_Space);
         QVERIFY(app.Link().m_alwaysWatched);
@@ -123,7 +112,7 @@ private slots:
         COnlineApp app;
         CMonitorDialog& monitor = app.MakeMonitor();
         for (int i = 0; i < 2; ++i) {
-            QVERIFY(ShowUp(app));
+            QVERIFY(app.ShowUp());
             QVERIFY(app.Link().m_monitorShown);
             switch (way) {
             case 0:
@@ -241,7 +230,7 @@ private slots:
         QFETCH(int, limit);
         COnlineApp app;
         CMonitorDialog& monitor = app.MakeMonitor();
-        QVERIFY(ShowUp(app));
+        QVERIFY(app.ShowUp());
         monitor.m_maxLinesEdit->clear();
         QTest::keyClicks(monitor.m_maxLinesEdit, typed);
         QTest::mouseClick(monitor.m_set, Qt::LeftButton);
@@ -255,7 +244,7 @@ private slots:
     {
         COnlineApp app;
         CMonitorDialog& monitor = app.MakeMonitor();
-        QVERIFY(ShowUp(app));
+        QVERIFY(app.ShowUp());
         for (int i = 0; i < 500; ++i)
             monitor.ReportCommand(std::to_string(i));
         monitor.Tick();
@@ -279,7 +268,7 @@ private slots:
     {
         COnlineApp app;
         CMonitorDialog& monitor = app.MakeMonitor();
-        QVERIFY(ShowUp(app));
+        QVERIFY(app.ShowUp());
         QGuiApplication::clipboard()->setText(QStringLiteral("before"));
         QTest::mouseClick(monitor.m_copy, Qt::LeftButton);
         QCOMPARE(app.m_prompts->m_failureBeeps, 1);
@@ -299,7 +288,7 @@ private slots:
     {
         COnlineApp app;
         CMonitorDialog& monitor = app.MakeMonitor();
-        QVERIFY(ShowUp(app));
+        QVERIFY(app.ShowUp());
         monitor.ReportBytes("A\r01");
         monitor.Tick();
         monitor.ReportBytes("02");
@@ -313,7 +302,7 @@ private slots:
     {
         COnlineApp app;
         CMonitorDialog& monitor = app.MakeMonitor();
-        QVERIFY(ShowUp(app));
+        QVERIFY(app.ShowUp());
         monitor.ReportCommand("p");
         monitor.Tick();
         monitor.m_clear->setFocus();

@@ -28,6 +28,12 @@ CMonitorDialog& COnlineApp::MakeMonitor()
     return *m_monitor;
 }
 
+bool COnlineApp::ShowUp()
+{
+    Link().ShowMonitor();
+    return QTest::qWaitForWindowActive(m_monitor);
+}
+
 QStringList COnlineApp::Log()
 {
     m_monitor->Tick();

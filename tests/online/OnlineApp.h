@@ -24,6 +24,8 @@ public:
     /// Makes the monitor window as the main window does; settings are given before this.
     CMonitorDialog& MakeMonitor();
     [[nodiscard]] CMonitorDialog& Monitor() { return *m_monitor; }
+    /// Brings the monitor window up as the user sees it.
+    [[nodiscard]] bool ShowUp();
     /// The monitor's lines as a screen reader gets them.
     [[nodiscard]] QStringList Log();
 

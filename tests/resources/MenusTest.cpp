@@ -1,5 +1,6 @@
 #include "resources/Menus.h"
 #include "resources/Translation.h"
+#include "support/window/DrawnMenu.h"
 
 #include <QKeySequence>
 #include <QRegularExpression>
@@ -9,21 +10,9 @@
 #include <functional>
 
 using namespace skeldon;
+using namespace skeldon::test;
 
 namespace {
-
-/// The menu as lines: two blanks a level, the text as it stands, "-" for a separator.
-QString Drawn(const Menu& menu, int level = 0)
-{
-    QString lines;
-    for (const auto& entry : menu) {
-        lines += QString(2 * level, u' ');
-        lines += entry.kind == MenuEntryKind::Separator ? QStringLiteral("-") : Text(entry.text);
-        lines += u'\n';
-        lines += Drawn(entry.entries, level + 1);
-    }
-    return lines;
-}
 
 /// The commands in the order of reading.
 QList<CommandId> Commands(const Menu& menu)

@@ -1,9 +1,9 @@
 #include "SimulatedSupport.h"
-#include "support/Process.h"
+#include "support/CommandHelp.h"
+#include "support/TemporaryFolder.h"
 
 #include <filesystem>
 #include <set>
-#include <sstream>
 
 namespace skeldon::test {
 
@@ -11,34 +11,12 @@ namespace {
 
 const std::filesystem::path Packaging = SKELDON_PACKAGING;
 
-/// What the completion offers for the last of `words`.
-std::set<std::string> Offered(const std::vector<std::string>& words)
-{
-    std::string script = "source '" + (Packaging / "completion/korva-simulator").string() +
-                         "'; COMP_WORDS=(korva-simulator";
-    for (const std::string& word : words)
-        script += " '" + word + "'";
-    script += "); COMP_CWORD=" + std::to_string(words.size()) +
-              "; _korva_simulator; printf '%s\\n' \"${COMPREPLY[@]}\"";
-    std::istringstream lines(RunProgram("/bin/bash", {"-c", script}).out);
-    std::set<std::string> offered;
-    for (std::string line; std::getline(lines, line);)
-        offered.insert(line);
-    return offered;
-}
+const Completion ForBash{Packaging / "completion/bash/korva-simulator", "korva-simulator",
+                         "_korva_simulator"};
 
-/// All long options that the help lists.
 std::set<std::string> Options()
 {
-    std::istringstream words(RunProgram(KORVA_SIMULATOR, {"--help"}).out);
-    std::set<std::string> options;
-    for (std::string word; words >> word;) {
-        if (word.starts_with("-h,"))
-            word.erase(0, 3);
-        if (word.starts_with("--"))
-            options.insert(word);
-    }
-    return options;
+    return LongOptions(KORVA_SIMULATOR, {"--help"});
 }
 
 TEST(ManualPage, TellsEveryOption)
@@ -59,8 +37,8 @@ TEST(ManualPage, TellsEveryFault)
 
 TEST(Completion, OffersEveryOption)
 {
-    EXPECT_EQ(Offered({"-"}), Options());
-    EXPECT_EQ(Offered({"--alpha", "--tr"}), std::set<std::string>{"--trace"});
+    EXPECT_EQ(Offered(ForBash, {"-"}), Options());
+    EXPECT_EQ(Offered(ForBash, {"--alpha", "--tr"}), std::set<std::string>{"--trace"});
 }
 
 TEST(Completion, OffersEveryFaultInItsForm)
@@ -72,13 +50,13 @@ TEST(Completion, OffersEveryFaultInItsForm)
                                 form.value == FaultValue::Text;
         faults.insert(std::string(form.name) + (needsValue ? "=" : ""));
     }
-    EXPECT_EQ(Offered({"--fault", ""}), faults);
+    EXPECT_EQ(Offered(ForBash, {"--fault", ""}), faults);
 }
 
 TEST(Completion, OffersTypesAndRates)
 {
-    EXPECT_EQ(Offered({"--type", "p"}), (std::set<std::string>{"pl04", "pl20"}));
-    EXPECT_EQ(Offered({"--rate", ""}), (std::set<std::string>{"full", "real"}));
+    EXPECT_EQ(Offered(ForBash, {"--type", "p"}), (std::set<std::string>{"pl04", "pl20"}));
+    EXPECT_EQ(Offered(ForBash, {"--rate", ""}), (std::set<std::string>{"full", "real"}));
 }
 
 } // namespace

@@ -15,6 +15,7 @@ using ColourRef = std::uint32_t;
             static_cast<int>(colour >> 16 & 0xFF)};
 }
 
+/// Without the opacity.
 [[nodiscard]] inline ColourRef ToColourRef(const QColor& colour)
 {
     return static_cast<ColourRef>(colour.red()) | static_cast<ColourRef>(colour.green()) << 8 |

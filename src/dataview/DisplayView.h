@@ -43,6 +43,7 @@ public:
 
     // --- what can be done now ---
 
+    /// Nothing is under way: no transfer, no filling of the list, no choice of an area.
     [[nodiscard]] bool CanOperate() const;
     [[nodiscard]] bool HasData() const;
     [[nodiscard]] bool CanSave() const;
@@ -124,6 +125,8 @@ private:
     void TellCopied(bool isCopied);
     [[nodiscard]] QString ProposedName() const;
     [[nodiscard]] QString FolderOf(const char* key) const;
+    /// Setting of the folder in which files were opened or saved the last time.
+    static constexpr const char* DataPathKey = "DataPath";
 
     // Paper.
     void OnFilePrint();

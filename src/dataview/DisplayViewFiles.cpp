@@ -23,7 +23,6 @@ namespace skeldon {
 
 namespace {
 
-constexpr const char* DataPathKey = "DataPath";
 constexpr const char* CsvPathKey = "CsvPath";
 
 void KeepFolder(const char* key, const QString& chosen)

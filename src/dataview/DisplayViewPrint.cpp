@@ -24,7 +24,7 @@ void CDisplayView::SetPrinters(std::unique_ptr<CPrinters> printers)
 QString CDisplayView::ProposedPdfPath(const QString& before) const
 {
     const QString folder =
-        before.isEmpty() ? FolderOf("DataPath") : QFileInfo(before).absolutePath();
+        before.isEmpty() ? FolderOf(DataPathKey) : QFileInfo(before).absolutePath();
     const QString name = m_strDataPath == m_strUnsaved ? ProposedName() : m_strDataPath;
     return QDir(folder).filePath(QFileInfo(name).completeBaseName() + QStringLiteral(".pdf"));
 }

@@ -15,6 +15,7 @@ struct RecorderPanes
     QString release; ///< release of the firmware
 };
 
+/// Of the last report of a recorder.
 [[nodiscard]] RecorderPanes PanesOf(const RecorderStatus& status);
 
 /// Looks once a second whether a recorder is plugged in, and asks a new one what it is, beside the

@@ -15,6 +15,7 @@ using RecorderSeconds = std::int64_t;
 
 inline constexpr RecorderSeconds SecondsPerDay = 86400;
 
+/// A day that its month does not have is one of the next month.
 [[nodiscard]] RecorderSeconds FromRecorderFields(const CalendarFields& fields);
 [[nodiscard]] CalendarFields ToRecorderFields(RecorderSeconds seconds);
 

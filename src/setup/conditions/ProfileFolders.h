@@ -21,6 +21,7 @@ struct ProfileFolders
 [[nodiscard]] ProfileFolders FindProfileFolders(const std::filesystem::path& userData,
                                                 const std::filesystem::path& programFolder);
 
+/// Each of the two alone, by the environment as it is now; neither needs to be there.
 [[nodiscard]] std::filesystem::path ProfileDirectory();
 [[nodiscard]] std::filesystem::path TemplateDirectory();
 /// Where data files go unless the user says otherwise: "KORVA" in the documents folder.

@@ -40,6 +40,7 @@ public:
 
     [[nodiscard]] const std::vector<ProfileLine>& Lines() const { return m_lines; }
     [[nodiscard]] int GetCount() const { return static_cast<int>(m_lines.size()); }
+    /// `position` must be one of a line.
     [[nodiscard]] const ProfileLine& At(int position) const;
 
 private:

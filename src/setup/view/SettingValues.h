@@ -33,11 +33,14 @@ struct FileChoices
     bool operator==(const FileChoices&) const = default;
 };
 
+/// What is not stored, or is no number, has the value that stands above.
 [[nodiscard]] FileChoices ReadFileChoices(const CSettings& settings);
 void WriteFileChoices(CSettings& settings, const FileChoices& choices);
 
+/// What `ReadCsvOptions` reads again.
 void WriteCsvOptions(CSettings& settings, const CsvOptions& options);
 
+/// Windows XP where nothing is stored.
 [[nodiscard]] FormColour ReadFormColour(const CSettings& settings);
 void WriteFormColour(CSettings& settings, FormColour colour);
 

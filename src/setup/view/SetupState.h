@@ -34,6 +34,7 @@ public:
 
     // --- what can be done, the recorder left aside ---
 
+    /// Profiles are shown and not protected, and what is on show has a name that is new.
     [[nodiscard]] bool CanAdd() const;
     /// Only what goes by the loaded name is updated: Update never renames.
     [[nodiscard]] bool CanUpdate() const;

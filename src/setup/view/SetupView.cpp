@@ -8,6 +8,7 @@
 #include "resources/StringTable.h"
 #include "setup/view/ConditionEditors.h"
 #include "setup/view/ProfileList.h"
+#include "setup/view/SettingValues.h"
 #include "setup/view/SetupForm.h"
 
 #include <QPainter>
@@ -52,8 +53,7 @@ QSize CSetupView::SmallestSize() const
 
 void CSetupView::ReadSettings()
 {
-    m_state.m_bNoProfileUpdate =
-        App().Settings().GetInt(SystemSection, QStringLiteral("NoProfileUpdate"), 0) != 0;
+    m_state.m_bNoProfileUpdate = ReadFileChoices(App().Settings()).prohibitsUpdate;
 }
 
 bool CSetupView::CanStart() const

@@ -11,6 +11,7 @@
 #include "resources/TextFormat.h"
 #include "setup/view/ProfileList.h"
 #include "setup/view/ProfileName.h"
+#include "setup/view/SettingValues.h"
 #include "setup/view/SetupForm.h"
 #include "setup/view/StartQuestion.h"
 #include "setup/view/StepRules.h"
@@ -111,8 +112,7 @@ void CSetupView::Step(SetupStep step)
 
 void CSetupView::RunWizard()
 {
-    const bool hasPages =
-        App().Settings().GetInt(SystemSection, QStringLiteral("ProfileWizard"), 1) != 0;
+    const bool hasPages = ReadFileChoices(App().Settings()).wizard == WizardStyle::Interactively;
     const ConditionEditor& editor = hasPages ? m_wizard : m_cardForm;
     CMeasureCondition edited = m_state.m_current;
     if (!editor || !editor(edited, m_state.m_store, this))

@@ -3,6 +3,7 @@
 #include "Check.h"
 #include "files/CsvFile.h"
 #include "files/DataFile.h"
+#include "files/StringOutput.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -14,21 +15,11 @@
 #include <unistd.h>
 
 using namespace skeldon;
+using test::CStringOutput;
 
 namespace {
 
 constexpr CalendarSeconds SomeTime = 1'700'000'000;
-
-class CStringOutput : public COutput
-{
-public:
-    std::error_code Write(std::string_view bytes) override
-    {
-        m_text += bytes;
-        return {};
-    }
-    std::string m_text;
-};
 
 /// A file in memory that has a path.
 class CMemoryFile

@@ -58,6 +58,14 @@ bool CFrameApp::Start(const QStringList& words)
     return QTest::qWaitForWindowActive(m_frame.get());
 }
 
+bool CFrameApp::StartWith(std::vector<std::string> options)
+{
+    if (!Start())
+        return false;
+    PlugIn(std::move(options));
+    return Connect();
+}
+
 void CFrameApp::End()
 {
     if (m_frame)

@@ -28,6 +28,8 @@ public:
 
     /// The start sequence with these words; the window is shown then.
     bool Start(const QStringList& words = {QStringLiteral("-display")});
+    /// Starts the program in the data view and connects such a recorder to it.
+    [[nodiscard]] bool StartWith(std::vector<std::string> options);
     /// Ends the program as a return from its event loop would.
     void End();
 

@@ -26,20 +26,11 @@ void GetData(CFrameApp& app)
     app.Press(Qt::Key_D, Qt::ControlModifier);
 }
 
-/// Starts the program and connects such a recorder to it.
-bool StartWith(CFrameApp& app, std::vector<std::string> options)
-{
-    if (!app.Start())
-        return false;
-    app.PlugIn(std::move(options));
-    return app.Connect();
-}
-
 /// Starts the program on five unsaved lines, with a recorder that holds ten.
 bool StartOverLines(CFrameApp& app)
 {
     constexpr std::size_t OldLines = 5;
-    if (!StartWith(app, {"--lines", "10"}))
+    if (!app.StartWith({"--lines", "10"}))
         return false;
     app.TakeLines(OldLines);
     app.m_prompts->m_shown.clear();
@@ -75,7 +66,7 @@ private slots:
     void TooFewLinesAreKept()
     {
         CFrameApp app;
-        QVERIFY(StartWith(app, {"--lines", "10", "--fault", "too-few=3"}));
+        QVERIFY(app.StartWith({"--lines", "10", "--fault", "too-few=3"}));
         QString summaryAtBox;
         app.m_prompts->m_whileShown = [&](const Prompt& /*prompt*/) {
             summaryAtBox = app.View().Summary();
@@ -96,7 +87,7 @@ private slots:
     void NoLinesAtAll()
     {
         CFrameApp app;
-        QVERIFY(StartWith(app, {"--lines", "10", "--fault", "too-few=10"}));
+        QVERIFY(app.StartWith({"--lines", "10", "--fault", "too-few=10"}));
         GetData(app);
         QCOMPARE(app.m_prompts->Boxes(), QStringList(NoData));
         QVERIFY(app.View().Data().IsEmpty());
@@ -109,8 +100,8 @@ private slots:
     void SilentRecorder()
     {
         CFrameApp app;
-        QVERIFY(StartWith(app, {"--lines", "400", "--alpha", "--fault",
-                                "silence-after=" + std::to_string(LineBytes * ArrivedLines)}));
+        QVERIFY(app.StartWith({"--lines", "400", "--alpha", "--fault",
+                               "silence-after=" + std::to_string(LineBytes * ArrivedLines)}));
         QCOMPARE(app.m_app->Link().m_lineLength, LineBytes);
         CStripWatch watch;
         CPaintCounter paints(app.View());
@@ -141,8 +132,8 @@ private slots:
     void LineCutShortBySilenceIsFlagged()
     {
         CFrameApp app;
-        QVERIFY(StartWith(app, {"--lines", "400", "--alpha", "--fault",
-                                "silence-after=" + std::to_string(LineBytes * ArrivedLines + 9)}));
+        QVERIFY(app.StartWith({"--lines", "400", "--alpha", "--fault",
+                               "silence-after=" + std::to_string(LineBytes * ArrivedLines + 9)}));
         CStripWatch watch;
         // Until all that comes has come the link is not yet silent.
         watch.m_look = MovingOn(app, 20);
@@ -157,8 +148,8 @@ private slots:
     void CablePulledInTheMiddle()
     {
         CFrameApp app;
-        QVERIFY(StartWith(app, {"--lines", "400", "--alpha", "--fault",
-                                "pull-after=" + std::to_string(LineBytes * ArrivedLines)}));
+        QVERIFY(app.StartWith({"--lines", "400", "--alpha", "--fault",
+                               "pull-after=" + std::to_string(LineBytes * ArrivedLines)}));
         app.m_hints.clear();
         CStripWatch watch;
         watch.m_look = MovingOn(app);
@@ -182,7 +173,7 @@ private slots:
     void MissingMarkAtTheEndCostsNoLine()
     {
         CFrameApp app;
-        QVERIFY(StartWith(app, {"--lines", "400", "--fault", "no-mark=D"}));
+        QVERIFY(app.StartWith({"--lines", "400", "--fault", "no-mark=D"}));
         QTimer mover;
         bool isFinishing = false;
         connect(&mover, &QTimer::timeout, this, [&] {
@@ -203,7 +194,7 @@ private slots:
     void CloseWaitsForTheMissingMarkToo()
     {
         CFrameApp app;
-        QVERIFY(StartWith(app, {"--lines", "400", "--fault", "no-mark=D", "--rate", "20000"}));
+        QVERIFY(app.StartWith({"--lines", "400", "--fault", "no-mark=D", "--rate", "20000"}));
         CStripWatch watch;
         bool isWanted = false;
         watch.m_look = [&](CProgressWindow& strip) {
@@ -225,7 +216,7 @@ private slots:
     void CloseWaitsForTheBoxThatTellsOfTheFailure()
     {
         CFrameApp app;
-        QVERIFY(StartWith(app, {"--lines", "80", "--fault", "too-few=3"}));
+        QVERIFY(app.StartWith({"--lines", "80", "--fault", "too-few=3"}));
         CStripWatch watch;
         bool isWanted = false;
         watch.m_look = [&](CProgressWindow& strip) { CloseOnce(app, strip, isWanted); };
@@ -269,7 +260,7 @@ private slots:
     void RecorderThatFallsSilentBeforeItsStatus()
     {
         CFrameApp app;
-        QVERIFY(StartWith(app, {"--lines", "10"}));
+        QVERIFY(app.StartWith({"--lines", "10"}));
         app.PlugIn({"--lines", "10", "--fault", "silence=p"});
         CPaintCounter paints(app.View());
         int painted = 0;
@@ -331,7 +322,7 @@ private slots:
     void SecondTransferFollowsAFailedOne()
     {
         CFrameApp app;
-        QVERIFY(StartWith(app, {"--lines", "120", "--fault", "too-few=60"}));
+        QVERIFY(app.StartWith({"--lines", "120", "--fault", "too-few=60"}));
         GetData(app);
         QCOMPARE(app.View().Data().GetSize(), std::size_t{60});
         app.PlugIn({"--lines", "120"});

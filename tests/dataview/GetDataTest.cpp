@@ -43,9 +43,7 @@ private slots:
     void AllLinesArrive()
     {
         CFrameApp app;
-        QVERIFY(app.Start());
-        app.PlugIn({"--lines", "100", "--type", "qm70", "--alpha"});
-        QVERIFY(app.Connect());
+        QVERIFY(app.StartWith({"--lines", "100", "--type", "qm70", "--alpha"}));
         CStripWatch watch;
         GetData(app);
         const CMeasureData& data = app.View().Data();
@@ -74,9 +72,7 @@ private slots:
     void CaptionIsUnsavedInTheLanguage()
     {
         CFrameApp app(QStringLiteral("Japanese"));
-        QVERIFY(app.Start());
-        app.PlugIn({"--lines", "3"});
-        QVERIFY(app.Connect());
+        QVERIFY(app.StartWith({"--lines", "3"}));
         GetData(app);
         QVERIFY(Text(StringId::Unsaved) != QStringLiteral("Unsaved"));
         QCOMPARE(app.Frame().windowTitle(),
@@ -86,9 +82,7 @@ private slots:
     void GaugeMovesEveryFortyLines()
     {
         CFrameApp app;
-        QVERIFY(app.Start());
-        app.PlugIn({"--lines", "400"});
-        QVERIFY(app.Connect());
+        QVERIFY(app.StartWith({"--lines", "400"}));
         CStripWatch watch;
         int range = 0;
         watch.m_look = [&](CProgressWindow& strip) {
@@ -104,9 +98,7 @@ private slots:
     void StripStandsInTheMiddleAndIsModal()
     {
         CFrameApp app;
-        QVERIFY(app.Start());
-        app.PlugIn({"--lines", "100"});
-        QVERIFY(app.Connect());
+        QVERIFY(app.StartWith({"--lines", "100"}));
         CStripWatch watch;
         bool isSeen = false;
         watch.m_look = [&](CProgressWindow& strip) {
@@ -126,9 +118,7 @@ private slots:
     void OtherMessagesOfTheStripAreIgnored()
     {
         CFrameApp app;
-        QVERIFY(app.Start());
-        app.PlugIn({"--lines", "100"});
-        QVERIFY(app.Connect());
+        QVERIFY(app.StartWith({"--lines", "100"}));
         CStripWatch watch;
         std::vector<std::size_t> lines;
         watch.m_look = [&](CProgressWindow& strip) {
@@ -148,9 +138,7 @@ private slots:
     void WarningBlinksByTheLines()
     {
         CFrameApp app;
-        QVERIFY(app.Start());
-        app.PlugIn({"--lines", "1600"});
-        QVERIFY(app.Connect());
+        QVERIFY(app.StartWith({"--lines", "1600"}));
         CStripWatch watch;
         QList<int> wrong;
         int reds = 0;
@@ -177,9 +165,7 @@ private slots:
     void NothingElseCanBeCommandedMeanwhile()
     {
         CFrameApp app;
-        QVERIFY(app.Start());
-        app.PlugIn({"--lines", "400"});
-        QVERIFY(app.Connect());
+        QVERIFY(app.StartWith({"--lines", "400"}));
         CStripWatch watch;
         bool canOperate = false;
         bool isTicked = false;
@@ -212,9 +198,7 @@ private slots:
     void CloseWaitsForTheEnd()
     {
         CFrameApp app;
-        QVERIFY(app.Start());
-        app.PlugIn({"--lines", "400"});
-        QVERIFY(app.Connect());
+        QVERIFY(app.StartWith({"--lines", "400"}));
         CStripWatch watch;
         bool isWanted = false;
         bool isLost = false;
@@ -261,9 +245,7 @@ private slots:
     void LinesBeyondThoseAnnouncedAreDropped()
     {
         CFrameApp app;
-        QVERIFY(app.Start());
-        app.PlugIn({"--lines", "80", "--fault", "too-many=30"});
-        QVERIFY(app.Connect());
+        QVERIFY(app.StartWith({"--lines", "80", "--fault", "too-many=30"}));
         GetData(app);
         QCOMPARE(app.View().Data().GetSize(), std::size_t{80});
         QCOMPARE(app.m_prompts->Boxes(), QStringList());
@@ -277,10 +259,8 @@ private slots:
     void SpoiltLinesAreKeptAndFlagged()
     {
         CFrameApp app;
-        QVERIFY(app.Start());
-        app.PlugIn({"--lines", "100", "--fault", "short-line=10", "--fault", "invalid-line=20",
-                    "--fault", "corrupt-line=30"});
-        QVERIFY(app.Connect());
+        QVERIFY(app.StartWith({"--lines", "100", "--fault", "short-line=10", "--fault",
+                               "invalid-line=20", "--fault", "corrupt-line=30"}));
         GetData(app);
         const CMeasureData& data = app.View().Data();
         QCOMPARE(data.GetSize(), std::size_t{100});
@@ -297,9 +277,7 @@ private slots:
     void GarbageBeforeRepliesIsPassedOver()
     {
         CFrameApp app;
-        QVERIFY(app.Start());
-        app.PlugIn({"--lines", "60", "--fault", "garbage=20"});
-        QVERIFY(app.Connect());
+        QVERIFY(app.StartWith({"--lines", "60", "--fault", "garbage=20"}));
         GetData(app);
         QCOMPARE(app.View().Data().GetSize(), std::size_t{60});
         QCOMPARE(app.View().Data().m_abnormalCount, std::size_t{0});
@@ -309,9 +287,7 @@ private slots:
     void NewYearIsRepaired()
     {
         CFrameApp app;
-        QVERIFY(app.Start());
-        app.PlugIn({"--lines", "100", "--fault", "new-year=40"});
-        QVERIFY(app.Connect());
+        QVERIFY(app.StartWith({"--lines", "100", "--fault", "new-year=40"}));
         GetData(app);
         const CMeasureData& data = app.View().Data();
         QCOMPARE(data.GetSize(), std::size_t{100});
@@ -326,9 +302,7 @@ private slots:
     void BreakInTimeIsTold()
     {
         CFrameApp app;
-        QVERIFY(app.Start());
-        app.PlugIn({"--lines", "100", "--fault", "break=50:7200"});
-        QVERIFY(app.Connect());
+        QVERIFY(app.StartWith({"--lines", "100", "--fault", "break=50:7200"}));
         GetData(app);
         QCOMPARE(app.m_prompts->Boxes(), QStringList(QStringLiteral("Error in date/time.\n")));
         const CMeasureData& data = app.View().Data();
@@ -340,9 +314,7 @@ private slots:
     void HundredThousandLinesArrive()
     {
         CFrameApp app;
-        QVERIFY(app.Start());
-        app.PlugIn({"--lines", "100000"});
-        QVERIFY(app.Connect());
+        QVERIFY(app.StartWith({"--lines", "100000"}));
         GetData(app);
         QCOMPARE(app.View().Data().GetSize(), std::size_t{100000});
         QCOMPARE(app.View().List().model()->rowCount(), 100000);

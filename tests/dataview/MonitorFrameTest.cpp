@@ -64,9 +64,7 @@ private slots:
     void ReadBackRestsItsButtons()
     {
         CFrameApp app;
-        QVERIFY(app.Start());
-        app.PlugIn({"--lines", "500"});
-        QVERIFY(app.Connect());
+        QVERIFY(app.StartWith({"--lines", "500"}));
         CMonitorDialog& monitor = app.Frame().Monitor();
         app.m_app->m_link.m_alwaysWatched = true;
         bool isResting = false;

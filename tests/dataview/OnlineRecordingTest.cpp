@@ -131,9 +131,7 @@ private slots:
     void CancelKeepsTheLinesSoFarWithoutAMessage()
     {
         CFrameApp app;
-        QVERIFY(app.Start());
-        app.PlugIn({"--time-scale", "10"});
-        QVERIFY(app.Connect());
+        QVERIFY(app.StartWith({"--time-scale", "10"}));
         Record(app, [&](COnlineDialog& dialog) {
             if (app.m_app->m_link.m_onlineLines > 300)
                 dialog.m_cancel->click();
@@ -148,9 +146,7 @@ private slots:
     void CablePulledKeepsTheLinesSoFarAndSaysSo()
     {
         CFrameApp app;
-        QVERIFY(app.Start());
-        app.PlugIn({"--time-scale", "10"});
-        QVERIFY(app.Connect());
+        QVERIFY(app.StartWith({"--time-scale", "10"}));
         bool isPulled = false;
         Record(app, [&](COnlineDialog&) {
             if (app.m_app->m_link.m_onlineLines <= 100)

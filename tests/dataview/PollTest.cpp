@@ -121,9 +121,7 @@ private slots:
     void PullingClearsThePanesAndBeeps()
     {
         CFrameApp app;
-        QVERIFY(app.Start());
-        app.PlugIn({});
-        QVERIFY(app.Connect());
+        QVERIFY(app.StartWith({}));
         auto* const icon = app.View().findChild<CConnectionIcon*>();
         QVERIFY(icon->IsConnected());
         app.m_hints.clear();
@@ -140,9 +138,7 @@ private slots:
     void NextResetReplacesConnectedByReady()
     {
         CFrameApp app;
-        QVERIFY(app.Start());
-        app.PlugIn({});
-        QVERIFY(app.Connect());
+        QVERIFY(app.StartWith({}));
         QCOMPARE(app.Frame().PaneText(0), QStringLiteral("Connected to KORVA"));
         app.Frame().SwitchView(ViewIndex::Setup);
         QCOMPARE(app.Frame().PaneText(0), QStringLiteral("Ready"));
@@ -152,9 +148,7 @@ private slots:
     void ChangedRangeIsReadWithoutABeep()
     {
         CFrameApp app;
-        QVERIFY(app.Start());
-        app.PlugIn({"--type", "pl20", "--alpha"});
-        QVERIFY(app.Connect());
+        QVERIFY(app.StartWith({"--type", "pl20", "--alpha"}));
         const QString before = app.Frame().PaneText(1);
         CRecorderLink& link = app.m_app->Link();
         QVERIFY(link.CanChangeRange());
@@ -253,9 +247,7 @@ private slots:
     void FailedSecondLookKeepsTheConnection()
     {
         CFrameApp app;
-        QVERIFY(app.Start());
-        app.PlugIn({"--type", "pl20", "--alpha"});
-        QVERIFY(app.Connect());
+        QVERIFY(app.StartWith({"--type", "pl20", "--alpha"}));
         const QString before = app.Frame().PaneText(1);
         app.m_app->Link().m_rangeChanged = true;
         app.PlugIn({"--type", "pl04", "--fault", "silence-once=p"});

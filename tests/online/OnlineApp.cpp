@@ -44,6 +44,12 @@ QStringList COnlineApp::Log()
     return lines;
 }
 
+bool COnlineApp::Attach(const std::string& port)
+{
+    m_port = port;
+    return Link().FindRecorderPort();
+}
+
 void COnlineApp::PlugIn(std::vector<std::string> options, Trace trace)
 {
     const std::string link = m_folder.filePath(QStringLiteral("korva")).toStdString();
@@ -52,8 +58,7 @@ void COnlineApp::PlugIn(std::vector<std::string> options, Trace trace)
         options.insert(options.end(), {"--trace", TraceFile()});
     m_simulator = std::make_unique<CBackgroundProgram>(SIMULATOR, options);
     QVERIFY2(!m_simulator->Ready().empty(), "the simulator did not start");
-    m_port = link;
-    QVERIFY(Link().FindRecorderPort());
+    QVERIFY(Attach(link));
 }
 
 QString COnlineApp::Heard() const

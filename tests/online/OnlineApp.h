@@ -35,6 +35,8 @@ public:
         On,
     };
 
+    /// Puts a recorder at that port on the cable; false if the link does not find it.
+    [[nodiscard]] bool Attach(const std::string& port);
     /// Plays a recorder on the cable. `options` are the simulator's.
     void PlugIn(std::vector<std::string> options = {}, Trace trace = Trace::On);
     /// What the recorder heard so far, as "m p m x #".

@@ -143,8 +143,7 @@ private slots:
         QFETCH(int, seconds);
         COnlineApp app;
         CStreamRecorder recorder(Endless(Sample));
-        app.m_port = recorder.Port();
-        QVERIFY(app.Link().FindRecorderPort());
+        QVERIFY(app.Attach(recorder.Port()));
         if (setting >= 0)
             app.Set("OnlineSecond", setting);
         CRun run(app);
@@ -170,8 +169,7 @@ private slots:
         QFETCH(int, way);
         COnlineApp app;
         CStreamRecorder recorder(Endless(Sample));
-        app.m_port = recorder.Port();
-        QVERIFY(app.Link().FindRecorderPort());
+        QVERIFY(app.Attach(recorder.Port()));
         app.Set("OnlineSecond", 4999);
         CRun run(app);
         QVERIFY(run.Start());
@@ -209,8 +207,7 @@ private slots:
     {
         COnlineApp app;
         CStreamRecorder recorder(Endless(Sample));
-        app.m_port = recorder.Port();
-        QVERIFY(app.Link().FindRecorderPort());
+        QVERIFY(app.Attach(recorder.Port()));
         app.Set("OnlineSecond", 4999);
         CRun run(app);
         run.m_dialog.open();
@@ -225,8 +222,7 @@ private slots:
     {
         COnlineApp app;
         CStreamRecorder recorder(Endless(Sample));
-        app.m_port = recorder.Port();
-        QVERIFY(app.Link().FindRecorderPort());
+        QVERIFY(app.Attach(recorder.Port()));
         CRun run(app);
         run.m_dialog.open();
         // Waking the recorder takes 300 ms, in which the windows live on.
@@ -275,8 +271,7 @@ private slots:
     {
         COnlineApp app;
         CStreamRecorder recorder(Once("02\r" + Repeated(Sample, 50)));
-        app.m_port = recorder.Port();
-        QVERIFY(app.Link().FindRecorderPort());
+        QVERIFY(app.Attach(recorder.Port()));
         CRun run(app);
         QVERIFY(run.Start());
         QTRY_COMPARE(app.Link().m_onlineLines.load(), 50U);
@@ -299,8 +294,7 @@ private slots:
     {
         COnlineApp app;
         CStreamRecorder recorder(Once({}));
-        app.m_port = recorder.Port();
-        QVERIFY(app.Link().FindRecorderPort());
+        QVERIFY(app.Attach(recorder.Port()));
         CRun run(app);
         QVERIFY(run.Start());
         QVERIFY(!run.m_dialog.m_waitText->isVisible());
@@ -317,8 +311,7 @@ private slots:
         COnlineApp app;
         CStreamRecorder recorder(
             Once("\r" + Repeated("\x01~zz\xFFG010203!\n\r", 30) + Repeated("\r\n", 200)));
-        app.m_port = recorder.Port();
-        QVERIFY(app.Link().FindRecorderPort());
+        QVERIFY(app.Attach(recorder.Port()));
         app.Link().m_countsPerG = 1;
         app.Set("OnlineSecond", 1);
         CRun run(app);
@@ -337,8 +330,7 @@ private slots:
     {
         COnlineApp app;
         CStreamRecorder recorder(Endless(Sample));
-        app.m_port = recorder.Port();
-        QVERIFY(app.Link().FindRecorderPort());
+        QVERIFY(app.Attach(recorder.Port()));
         app.Set("OnlineSecond", 1);
         CRun run(app);
         QVERIFY(run.Start());
@@ -352,8 +344,7 @@ private slots:
     {
         COnlineApp app;
         CStreamRecorder recorder(Endless(Sample));
-        app.m_port = recorder.Port();
-        QVERIFY(app.Link().FindRecorderPort());
+        QVERIFY(app.Attach(recorder.Port()));
         const CMonitorDialog& monitor = app.MakeMonitor();
         QVERIFY(monitor.m_copy->isEnabled());
         CRun run(app);

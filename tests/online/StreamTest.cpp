@@ -86,8 +86,7 @@ private slots:
             }
             return piece;
         });
-        app.m_port = recorder.Port();
-        QVERIFY(app.Link().FindRecorderPort());
+        QVERIFY(app.Attach(recorder.Port()));
         app.Link().m_countsPerG = 1;
         app.Set("OnlineSecond", 4999);
         CMeasureData data;

@@ -55,8 +55,11 @@ bool CCable::Exchange(CSimulatedRecorder& recorder, CTraceFile& trace, Simulatio
     }
     const std::string_view bytes(buffer.data(), read.count);
     trace.Bytes(time.realUs, TraceDirection::FromHost, bytes);
-    if (!bytes.empty())
+    if (!bytes.empty()) {
+        // Whoever has the answer finds in the trace what it answers.
+        trace.Flush();
         recorder.Receive(bytes, time.recorderMs);
+    }
     if (!error)
         Write(recorder, trace, time, error);
     return isClosed;

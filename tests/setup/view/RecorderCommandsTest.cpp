@@ -335,9 +335,9 @@ void RecorderCommandsTest::CableThatIsOutClosesItsDialogAtTheFirstLook()
     CSetupApp app;
     int looks = 0;
     CRecorderLink link(std::make_unique<CCountedCable>(looks), nullptr, app.m_clock);
-    CCableDialog dialog(link);
     QElapsedTimer stood;
     stood.start();
+    CCableDialog dialog(link);
     app.m_onCable = [](CCableDialog&) {};
     QCOMPARE(dialog.exec(), static_cast<int>(QDialog::Accepted));
     QCOMPARE(looks, 1);

@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::int64_t HalfLine = -1;
 
-constexpr std::array<FaultForm, 21> Forms = {{
+constexpr std::array<FaultForm, 22> Forms = {{
     {FaultKind::SilenceAfter, "silence-after", FaultValue::Number, "BYTES", 0,
      "a download or stream falls silent after so many bytes"},
     {FaultKind::Silence, "silence", FaultValue::Text, "COMMAND", 0,
@@ -26,6 +26,8 @@ constexpr std::array<FaultForm, 21> Forms = {{
      "so many bytes of garbage, 16 without a number, before every reply"},
     {FaultKind::PullAfter, "pull-after", FaultValue::Number, "BYTES", 0,
      "the cable is pulled once, after so many bytes of a download or stream"},
+    {FaultKind::PullAt, "pull-at", FaultValue::Number, "BYTES", 0,
+     "the cable is pulled once, after so many bytes of whatever goes either way"},
     {FaultKind::TooFew, "too-few", FaultValue::OptionalNumber, "LINES", 1,
      "a download has so many lines, 1 without a number, less than announced"},
     {FaultKind::TooMany, "too-many", FaultValue::OptionalNumber, "LINES", 1,
@@ -147,6 +149,14 @@ void CFaults::Remove(const Fault* fault)
         std::ranges::find_if(m_faults, [&](const Fault& other) { return &other == fault; });
     if (place != m_faults.end())
         m_faults.erase(place);
+}
+
+void CFaults::CountDown(FaultKind kind, std::int64_t count)
+{
+    const auto fault = std::find_if(m_faults.rbegin(), m_faults.rend(),
+                                    [&](const Fault& other) { return other.kind == kind; });
+    if (fault != m_faults.rend())
+        fault->number -= count;
 }
 
 const Fault* CFaults::Find(FaultKind kind) const

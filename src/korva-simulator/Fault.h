@@ -19,6 +19,7 @@ enum class FaultKind
     Delay,
     Garbage,
     PullAfter,
+    PullAt,
     TooFew,
     TooMany,
     ShortLine,
@@ -81,6 +82,8 @@ public:
     void Add(Fault fault) { m_faults.push_back(std::move(fault)); }
     void Clear() { m_faults.clear(); }
     void Remove(const Fault* fault);
+    /// Takes `count` off the number of the latest of that kind.
+    void CountDown(FaultKind kind, std::int64_t count);
 
     [[nodiscard]] const std::vector<Fault>& All() const { return m_faults; }
     /// The latest of that kind; null where there is none.

@@ -5,6 +5,7 @@
 #include "korva-simulator/StatusText.h"
 
 #include <algorithm>
+#include <limits>
 #include <utility>
 
 namespace skeldon {
@@ -16,6 +17,8 @@ constexpr std::string_view Mark = "#";
 constexpr std::size_t InputLimit = 4096;
 /// Bytes of the stream that may wait for a slow host.
 constexpr std::size_t StreamBacklog = 4096;
+
+constexpr std::size_t Unlimited = std::numeric_limits<std::size_t>::max();
 
 /// Bytes that no reader of digits takes for any, nor for a mark or an end of line.
 std::string Garbage(std::int64_t count)
@@ -78,8 +81,10 @@ void CSimulatedRecorder::Start()
 void CSimulatedRecorder::Receive(std::string_view bytes, std::int64_t nowMs)
 {
     Advance(nowMs);
+    bytes = bytes.substr(0, BytesToPull());
     m_input += bytes.substr(0, InputLimit - std::min(InputLimit, m_input.size()));
     ReadInput();
+    CountToPull(bytes.size());
 }
 
 void CSimulatedRecorder::ReadInput()
@@ -114,8 +119,7 @@ std::string_view CSimulatedRecorder::Output() const
 {
     if (m_heldUntilMs > m_nowMs)
         return {};
-    const std::string_view front = m_output.Front();
-    return m_bytesLeft ? front.substr(0, *m_bytesLeft) : front;
+    return m_output.Front().substr(0, std::min(m_bytesLeft.value_or(Unlimited), BytesToPull()));
 }
 
 void CSimulatedRecorder::Sent(std::size_t count)
@@ -125,6 +129,9 @@ void CSimulatedRecorder::Sent(std::size_t count)
         *m_bytesLeft -= count;
         CheckLimit();
     }
+    CountToPull(count);
+    if (m_pullRequested)
+        return;
     if (m_output.IsEmpty() && m_transfer == Transfer::Report)
         m_output.Append(Filler());
     if (m_output.IsEmpty() && m_transfer == Transfer::Download)
@@ -226,6 +233,24 @@ void CSimulatedRecorder::CheckLimit()
     }
     m_output.Clear();
     EndTransfer();
+}
+
+std::size_t CSimulatedRecorder::BytesToPull() const
+{
+    if (m_pullRequested)
+        return 0;
+    const Fault* const pull = m_faults.Find(FaultKind::PullAt);
+    return pull ? static_cast<std::size_t>(pull->number) : Unlimited;
+}
+
+void CSimulatedRecorder::CountToPull(std::size_t count)
+{
+    m_faults.CountDown(FaultKind::PullAt, static_cast<std::int64_t>(count));
+    const Fault* const pull = m_faults.Find(FaultKind::PullAt);
+    if (!pull || pull->number > 0)
+        return;
+    m_faults.Remove(pull);
+    m_pullRequested = true;
 }
 
 void CSimulatedRecorder::EndTransfer()

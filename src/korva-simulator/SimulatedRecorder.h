@@ -81,6 +81,9 @@ private:
     void LimitTransfer();
     void EndTransfer();
     void CheckLimit();
+    /// Bytes of either direction that still pass before a fault pulls the cable.
+    [[nodiscard]] std::size_t BytesToPull() const;
+    void CountToPull(std::size_t count);
     [[nodiscard]] RecorderSeconds Clock() const;
 
     RecorderState m_state;

@@ -184,6 +184,46 @@ TEST(FaultPullAfter, YieldsToASilenceThatComesFirst)
     EXPECT_FALSE(recorder.HasPullRequest());
 }
 
+TEST(FaultPullAt, CountsTheBytesOfBothWays)
+{
+    CSimulatedRecorder recorder(StateWith(50, true, 10));
+    EXPECT_EQ(Ask(recorder, "m"), "m");
+    Inflict(recorder, "pull-at=9");
+    EXPECT_EQ(Ask(recorder, "mN0"), "m");
+    recorder.Receive("5", 0);
+    EXPECT_EQ(Hear(recorder, 3), "N05");
+    EXPECT_FALSE(recorder.HasPullRequest());
+    EXPECT_EQ(Hear(recorder), "\r") << "no more gets through";
+    EXPECT_TRUE(recorder.HasPullRequest());
+    recorder.Receive("N06", 0);
+    EXPECT_EQ(Hear(recorder), "");
+    recorder.Unplug(1);
+    recorder.Plug(2);
+    EXPECT_FALSE(recorder.HasPullRequest());
+    EXPECT_EQ(ValueOf(Ask(recorder, "p"), "@My_ID="), "5") << "it pulls once";
+}
+
+TEST(FaultPullAt, LosesWhatComesBehindTheLastByte)
+{
+    CSimulatedRecorder recorder(StateWith(50, true, 10));
+    Inflict(recorder, "pull-at=3");
+    recorder.Receive("N05N06", 0);
+    EXPECT_TRUE(recorder.HasPullRequest());
+    recorder.Unplug(1);
+    recorder.Plug(2);
+    EXPECT_EQ(ValueOf(Ask(recorder, "p"), "@My_ID="), "5");
+}
+
+TEST(FaultPullAt, OfNothingPullsAsSoonAsTheHostSends)
+{
+    CSimulatedRecorder recorder(StateWith(50, true, 10));
+    Inflict(recorder, "pull-at=0");
+    EXPECT_FALSE(recorder.HasPullRequest());
+    recorder.Receive("m", 0);
+    EXPECT_TRUE(recorder.HasPullRequest());
+    EXPECT_EQ(Hear(recorder), "");
+}
+
 // The lines of a download.
 
 std::vector<std::string> Spoilt(std::string_view fault, std::size_t lines = 6)

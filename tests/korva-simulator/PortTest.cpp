@@ -205,6 +205,19 @@ TEST_F(Port, DiesInMidTransferWhereAFaultPullsTheCable)
     EXPECT_EQ(Talk(m_link, "D").size(), 110'001U);
 }
 
+TEST_F(Port, DiesInMidReplyWhereAFaultPullsTheCable)
+{
+    CPlayed played(Arguments({"--alpha", "--lines", "4", "--fault", "pull-at=8"}));
+    CHostPort port(m_link);
+    port.WakeUp();
+    port.Write("N05");
+    EXPECT_EQ(port.ReadTo('#'), "N05");
+    EXPECT_EQ(played.NextLine(), "pulled");
+    EXPECT_FALSE(HasLink(m_link));
+    EXPECT_EQ(played.Control(m_fifo, "plug"), "ready " + m_link.string());
+    EXPECT_EQ(ValueOf(Talk(m_link, "p"), "@My_ID="), "5");
+}
+
 TEST_F(Port, TakesFaultsWhileItRuns)
 {
     CPlayed played(Arguments({"--alpha", "--lines", "10"}));

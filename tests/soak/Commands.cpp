@@ -1,5 +1,6 @@
 #include "Commands.h"
 
+#include "AnyFault.h"
 #include "Growth.h"
 #include "SoakApp.h"
 #include "SoakFiles.h"
@@ -278,8 +279,8 @@ private:
     CSoak m_soak;
     CRandom m_random;
     QTemporaryDir m_folder;
-    CVirtualClock m_clock;
-    CVirtualRecorder m_recorder;
+    test::CVirtualClock m_clock;
+    test::CVirtualRecorder m_recorder;
     CSoakFiles m_files;
     std::optional<CSoakApp> m_app;
     CGrowth m_growth;

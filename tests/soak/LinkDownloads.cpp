@@ -1,9 +1,10 @@
 #include "LinkDownloads.h"
 
+#include "AnyFault.h"
 #include "Growth.h"
-#include "VirtualRecorder.h"
 #include "recorder/ReadBack.h"
 #include "setup/tables/RecorderModel.h"
+#include "support/recorder/VirtualRecorder.h"
 
 #include <algorithm>
 #include <cmath>
@@ -202,8 +203,8 @@ private:
 
     CSoak m_soak;
     CRandom m_random;
-    CVirtualClock m_clock;
-    CVirtualRecorder m_recorder;
+    test::CVirtualClock m_clock;
+    test::CVirtualRecorder m_recorder;
     CRecorderLink m_link;
     CGrowth m_growth;
     int m_type = OldestType;

@@ -1,5 +1,6 @@
 #include "Polls.h"
 
+#include "AnyFault.h"
 #include "Growth.h"
 #include "SoakApp.h"
 #include "online/MonitorDialog.h"
@@ -112,8 +113,8 @@ private:
     CSoak m_soak;
     CRandom m_random;
     QTemporaryDir m_folder;
-    CVirtualClock m_clock;
-    CVirtualRecorder m_recorder;
+    test::CVirtualClock m_clock;
+    test::CVirtualRecorder m_recorder;
     CSoakApp m_app;
     CGrowth m_growth;
     int m_changes = 0;

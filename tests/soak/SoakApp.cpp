@@ -12,8 +12,8 @@
 
 namespace skeldon::soak {
 
-CSoakApp::CSoakApp(const QString& folder, const QString& language, CVirtualClock& clock,
-                   CVirtualRecorder& recorder, CRandom& random)
+CSoakApp::CSoakApp(const QString& folder, const QString& language, test::CVirtualClock& clock,
+                   test::CVirtualRecorder& recorder, CRandom& random)
     : m_user(random)
     , m_folder(folder)
 {

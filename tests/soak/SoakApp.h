@@ -1,11 +1,11 @@
 #pragma once
 
 #include "RandomPrompts.h"
-#include "VirtualRecorder.h"
 #include "app/SkeldonApp.h"
 #include "dataview/DisplayView.h"
 #include "dataview/MainFrame.h"
 #include "dataview/RecorderPoll.h"
+#include "support/recorder/VirtualRecorder.h"
 
 #include <QStringList>
 
@@ -19,8 +19,8 @@ class CSoakApp
 {
 public:
     /// `folder` holds the settings over programs. All must outlive it.
-    CSoakApp(const QString& folder, const QString& language, CVirtualClock& clock,
-             CVirtualRecorder& recorder, CRandom& random);
+    CSoakApp(const QString& folder, const QString& language, test::CVirtualClock& clock,
+             test::CVirtualRecorder& recorder, CRandom& random);
     ~CSoakApp();
     CSoakApp(const CSoakApp&) = delete;
     CSoakApp& operator=(const CSoakApp&) = delete;

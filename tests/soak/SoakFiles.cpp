@@ -1,8 +1,8 @@
 #include "SoakFiles.h"
 
-#include "VirtualRecorder.h"
 #include "files/DataFile.h"
 #include "files/StringOutput.h"
+#include "support/recorder/VirtualRecorder.h"
 
 #include <QFile>
 
@@ -109,7 +109,7 @@ std::string DifferenceTo(const CMeasureData& held, const QString& path)
     // A file keeps its flags as they were before it was opened; opening it analyses the lines.
     const bool isSame = TextOf(read) == heldText;
     if (!isSame)
-        read.Analyse({.now = CVirtualClock::Start});
+        read.Analyse({.now = test::CVirtualClock::Start});
     return isSame || TextOf(read) == heldText ? std::string() : Parting(heldText, TextOf(read));
 }
 

@@ -1,7 +1,7 @@
 #include "WindowDownloads.h"
 
+#include "AnyFault.h"
 #include "Growth.h"
-#include "VirtualRecorder.h"
 #include "dataview/FrameApp.h"
 
 #include <QGuiApplication>

@@ -1,11 +1,11 @@
-#include "VirtualRecorder.h"
+#include "support/recorder/VirtualRecorder.h"
 
 #include "korva-simulator/SyntheticMemory.h"
 
 #include <algorithm>
 #include <stdexcept>
 
-namespace skeldon::soak {
+namespace skeldon::test {
 
 class CVirtualRecorder::CPort final : public CSerialPort
 {
@@ -40,6 +40,7 @@ private:
     bool IsAlive()
     {
         const std::lock_guard guard(m_recorder.m_lock);
+        m_recorder.CatchUp();
         return m_recorder.m_isPlugged && m_recorder.m_plugs == m_plug;
     }
 
@@ -77,7 +78,7 @@ void CVirtualRecorder::Replace(int type, bool alpha, std::size_t lines)
     state.type = type;
     state.alpha = alpha;
     state.hasBuzzerKey = type != OldestType;
-    state.seed = static_cast<std::uint64_t>(m_random.Below(1000)) + 1;
+    state.seed = m_random() % 1000 + 1;
     state.clock = ParseRecorderTime("2025-06-01 12:00:00").value();
     if (lines > 0)
         FillMemory(state, {.count = lines,
@@ -91,8 +92,13 @@ void CVirtualRecorder::Replace(int type, bool alpha, std::size_t lines)
 void CVirtualRecorder::Plug()
 {
     const std::lock_guard guard(m_lock);
-    if (m_isPlugged)
-        return;
+    m_isPlugDue = false;
+    if (!m_isPlugged)
+        PlugIn();
+}
+
+void CVirtualRecorder::PlugIn()
+{
     m_isPlugged = true;
     ++m_plugs;
     m_recorder->Plug(m_clock.m_ms);
@@ -107,9 +113,34 @@ void CVirtualRecorder::Pull()
     m_recorder->Unplug(m_clock.m_ms);
 }
 
+void CVirtualRecorder::PlugAgainAfter(std::int64_t milliseconds)
+{
+    const std::lock_guard guard(m_lock);
+    m_pause = milliseconds;
+}
+
+void CVirtualRecorder::ObeyFault()
+{
+    if (!m_recorder->HasPullRequest())
+        return;
+    m_isPlugged = false;
+    m_recorder->Unplug(m_clock.m_ms);
+    m_isPlugDue = m_pause.has_value();
+    m_plugMs = m_clock.m_ms + m_pause.value_or(0);
+}
+
+void CVirtualRecorder::CatchUp()
+{
+    if (!m_isPlugDue || m_clock.m_ms < m_plugMs)
+        return;
+    m_isPlugDue = false;
+    PlugIn();
+}
+
 bool CVirtualRecorder::IsPlugged()
 {
     const std::lock_guard guard(m_lock);
+    CatchUp();
     return m_isPlugged;
 }
 
@@ -129,6 +160,26 @@ std::string CVirtualRecorder::Memory()
 {
     const std::lock_guard guard(m_lock);
     return std::string(m_recorder->State().memory.Wire());
+}
+
+void CVirtualRecorder::KeepWire()
+{
+    const std::lock_guard guard(m_lock);
+    m_wire.emplace();
+}
+
+Wire CVirtualRecorder::GetWire()
+{
+    const std::lock_guard guard(m_lock);
+    return m_wire.value_or(Wire());
+}
+
+void CVirtualRecorder::Keep(std::string_view bytes, char way)
+{
+    if (!m_wire)
+        return;
+    m_wire->bytes += bytes;
+    m_wire->ways.append(bytes.size(), way);
 }
 
 std::string CVirtualRecorder::Delivered()
@@ -158,19 +209,16 @@ CSerialPort::Transfer CVirtualRecorder::Read(std::span<char> buffer)
 {
     const std::lock_guard guard(m_lock);
     WaitForBytes();
-    constexpr int MostBytes = 5000;
+    constexpr std::size_t MostBytes = 5000;
     constexpr std::int64_t BytesPerMs = SerialSetting::Baud / 10 / 1000;
     const std::string_view output = m_recorder->Output();
-    const std::size_t count = std::min(
-        {output.size(), buffer.size(), static_cast<std::size_t>(m_random.Between(1, MostBytes))});
+    const std::size_t count = std::min({output.size(), buffer.size(), m_random() % MostBytes + 1});
     std::copy_n(output.begin(), count, buffer.begin());
     m_delivered.append(output.substr(0, count));
+    Keep(output.substr(0, count), '<');
     m_recorder->Sent(count);
     m_clock.m_ms += static_cast<std::int64_t>(count) / BytesPerMs;
-    if (m_recorder->HasPullRequest()) {
-        m_isPlugged = false;
-        m_recorder->Unplug(m_clock.m_ms);
-    }
+    ObeyFault();
     return {count, {}};
 }
 
@@ -192,7 +240,9 @@ CSerialPort::Transfer CVirtualRecorder::Write(std::string_view bytes)
     const std::lock_guard guard(m_lock);
     if (bytes == "D" || bytes == "G")
         m_delivered.clear();
+    Keep(bytes, '>');
     m_recorder->Receive(bytes, m_clock.m_ms);
+    ObeyFault();
     return {bytes.size(), {}};
 }
 
@@ -209,52 +259,4 @@ void CVirtualRecorder::Close()
     m_recorder->LoseOutput();
 }
 
-namespace {
-
-/// Where a download breaks off or falls silent.
-int AnyByte(CRandom& random, int lines)
-{
-    constexpr int LineBytes = 22;
-    return random.Below(lines * LineBytes + LineBytes);
-}
-
-} // namespace
-
-std::string AnyFault(CRandom& random, int lines)
-{
-    const FaultForm& form = random.AnyOf(FaultForms());
-    const std::string name(form.name);
-    const auto with = [&](const std::string& value) { return name + "=" + value; };
-    const auto number = [&](int value) { return with(std::to_string(value)); };
-    switch (form.kind) {
-    case FaultKind::SilenceAfter:
-    case FaultKind::PullAfter:
-        return number(AnyByte(random, lines));
-    case FaultKind::Delay:
-        return number(random.OneOf({10, 149, 151, 3000, 14000, 16000}));
-    case FaultKind::Garbage:
-    case FaultKind::TooFew:
-    case FaultKind::TooMany:
-        return random.OneIn(2) ? name : number(random.OneOf({1, 2, 30, 600, lines}));
-    case FaultKind::ShortLine:
-    case FaultKind::Break: {
-        const std::string line = number(random.Below(lines + 2));
-        return random.OneIn(2) ? line : line + ":" + std::to_string(random.Between(1, 19));
-    }
-    case FaultKind::CorruptLine:
-    case FaultKind::InvalidLine:
-    case FaultKind::NewYear:
-        return number(random.Below(lines + 2));
-    case FaultKind::Silence:
-    case FaultKind::SilenceOnce:
-        return with(random.OneOf({"p", "D", "G", "x"}));
-    case FaultKind::NoMark:
-        return random.OneIn(2) ? name : with(random.OneOf({"p", "D", "G"}));
-    case FaultKind::Count:
-        return with(random.OneOf({"0", "-3", "7", "word", "32000", "400000000", "99999999999"}));
-    default:
-        return name;
-    }
-}
-
-} // namespace skeldon::soak
+} // namespace skeldon::test

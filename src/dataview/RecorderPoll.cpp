@@ -45,7 +45,10 @@ void CRecorderPoll::Tick()
     if (App().m_sharedBlock.GetHoldFlag() != 0U)
         return;
     CRecorderLink& link = App().m_link;
-    const bool present = link.FindRecorderPort();
+    // A cable that was pulled and is back already is missed for one look: what is plugged in now
+    // may be another recorder, or the same in another state.
+    const bool wasCut = link.TakeCut();
+    const bool present = link.FindRecorderPort() && !wasCut;
     const bool isForced = link.m_rangeChanged;
     if (present == m_bConnected && !isForced)
         return;

@@ -19,7 +19,8 @@ struct RecorderPanes
 [[nodiscard]] RecorderPanes PanesOf(const RecorderStatus& status);
 
 /// Looks once a second whether a recorder is plugged in, and asks a new one what it is, beside the
-/// window: a recorder that does not answer holds nobody up and is asked again at the next tick.
+/// window: a recorder that does not answer holds nobody up and is asked again at the next tick. A
+/// cable that went during a conversation counts as pulled even if it is back by the next look.
 class CRecorderPoll : public QObject
 {
     Q_OBJECT

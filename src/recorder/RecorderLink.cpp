@@ -27,7 +27,8 @@ bool CRecorderLink::ReadStatus()
     if (m_busy)
         return false;
     const std::string reply = SendText("p") ? ReadReply() : std::string();
-    if (reply.empty()) {
+    // Where the cable went in the middle, anything may be missing, and be half of a number.
+    if (reply.empty() || (m_timedOut && IsPortGone())) {
         ClosePort();
         return false;
     }
@@ -114,8 +115,19 @@ bool CRecorderLink::ChangeRange()
 
 bool CRecorderLink::SendMonitorCommand(std::string_view text)
 {
-    if (m_busy || !SendText(text))
+    if (m_busy)
         return false;
+    const bool isSent = SendText(text);
+    if (isSent)
+        ReportUntilSilence();
+    // A dead port would fail the next operation, be the cable back by then or not.
+    if (IsPortGone())
+        ClosePort();
+    return isSent;
+}
+
+void CRecorderLink::ReportUntilSilence()
+{
     m_timedOut = false;
     std::uint32_t lastByte = Clock().TickMs();
     while (!m_timedOut) {
@@ -126,7 +138,6 @@ bool CRecorderLink::SendMonitorCommand(std::string_view text)
             lastByte = Clock().TickMs();
         m_timedOut = IsAbandoned() || (bytes.empty() && SilentSince(lastByte));
     }
-    return true;
 }
 
 } // namespace skeldon

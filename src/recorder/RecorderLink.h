@@ -44,8 +44,8 @@ public:
     // --- status and conditions ---
 
     /// Asks for the status report, reads it into the fields, and closes the port. False without a
-    /// reply, while a transfer runs, or if the reply is no report: the port stays open in this last
-    /// case.
+    /// reply, with one that the cable's end cut short, while a transfer runs, or if the reply is no
+    /// report: the port stays open in this last case.
     bool ReadStatus();
     /// The same; `condition` takes what the recorder holds.
     bool ReadStatus(CMeasureCondition& condition);
@@ -66,7 +66,7 @@ public:
     /// out of date then, as `m_rangeChanged` tells.
     bool ChangeRange();
     /// Sends raw text and reports all that comes until the silence of 15 s, or the program's end.
-    /// The port stays open.
+    /// The port stays open unless its cable was pulled.
     bool SendMonitorCommand(std::string_view text);
 
     // --- download ---
@@ -108,6 +108,7 @@ private:
 
     /// One command of several; a failure closes the port.
     bool SendOrClose(std::string_view text);
+    void ReportUntilSilence();
     bool StartThread(ThreadWork work);
     void RunThread(ThreadWork work);
     void ReceiveDownload();

@@ -46,9 +46,7 @@ bool CRecorderTransport::OpenPort()
     if (!m_port)
         return false;
     constexpr std::string_view WakeUp = "m";
-    const CSerialPort::Transfer written = m_port->Write(WakeUp);
-    m_error = written.error;
-    if (!m_error && written.count == WakeUp.size() && DrainPort())
+    if (WritePort(WakeUp) && DrainPort())
         return true;
     if (!m_error)
         m_error = std::make_error_code(std::errc::io_error);
@@ -66,13 +64,12 @@ bool CRecorderTransport::SendText(std::string_view text)
 {
     if (!m_port && !OpenPort())
         return false;
-    const CSerialPort::Transfer written = m_port->Write(text);
-    const std::optional<CSerialPort::LineState> state = m_port->ClearErrors();
+    const bool isWritten = WritePort(text);
+    const std::optional<CSerialPort::LineState> state = AskPort();
     ReportCommand(text);
-    m_error = written.error;
     if (!m_error && (!state || state->errors))
         m_error = std::make_error_code(std::errc::io_error);
-    return !m_error && written.count == text.size();
+    return !m_error && isWritten;
 }
 
 std::string CRecorderTransport::ReadReply(std::size_t size)
@@ -110,7 +107,7 @@ bool CRecorderTransport::DrainPort()
 {
     const std::uint32_t start = m_clock.TickMs();
     for (int round = 0; m_port; ++round) {
-        const std::optional<CSerialPort::LineState> state = m_port->ClearErrors();
+        const std::optional<CSerialPort::LineState> state = AskPort();
         if (!state)
             return false;
         const bool isGood = !m_held.empty() || FillHeld(std::max<std::size_t>(state->queued, 1));
@@ -142,6 +139,21 @@ std::string_view CRecorderTransport::PeekBytes()
     return m_held;
 }
 
+bool CRecorderTransport::WritePort(std::string_view bytes)
+{
+    const CSerialPort::Transfer written = m_port->Write(bytes);
+    m_error = written.error;
+    return !m_error && written.count == bytes.size();
+}
+
+std::optional<CSerialPort::LineState> CRecorderTransport::AskPort()
+{
+    const std::optional<CSerialPort::LineState> state = m_port->ClearErrors();
+    if (!state)
+        m_wasCut = true;
+    return state;
+}
+
 bool CRecorderTransport::FillHeld(std::size_t most)
 {
     if (!m_port)
@@ -149,6 +161,8 @@ bool CRecorderTransport::FillHeld(std::size_t most)
     const std::span<char> room = std::span(m_block).first(std::min(most, m_block.size()));
     const CSerialPort::Transfer read = m_port->Read(room);
     m_held = std::string_view(m_block.data(), std::min(read.count, room.size()));
+    if (read.error)
+        m_wasCut = true;
     return !read.error || read.count > 0;
 }
 

@@ -9,6 +9,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -61,6 +62,10 @@ public:
     /// went well. Not to be asked while a transfer runs.
     [[nodiscard]] std::error_code LastError() const { return m_error; }
 
+    /// Whether an open port has died since this was last asked: its cable was pulled, be it back by
+    /// now or not.
+    [[nodiscard]] bool TakeCut() { return m_wasCut.exchange(false); }
+
     /// Sets the window that traffic is reported to; the link owns it.
     void SetMonitor(std::unique_ptr<CTrafficSink> monitor) { m_monitor = std::move(monitor); }
     void ShowMonitor();
@@ -80,6 +85,8 @@ protected:
     [[nodiscard]] std::string_view PeekBytes();
     /// Takes `count` of the bytes that `PeekBytes` gave.
     void TakeBytes(std::size_t count) { m_held.remove_prefix(count); }
+    /// Whether the cable of the open port was pulled. Plugged in again, it has another port.
+    [[nodiscard]] bool IsPortGone() { return m_port && !AskPort(); }
     void ReportCommand(std::string_view text);
     void ReportBytes(std::string_view bytes);
     /// Whether the silence since the tick count `since` has lasted too long.
@@ -95,6 +102,9 @@ private:
     /// Reads up to `most` bytes behind those held, of which there must be none. False if the read
     /// failed.
     bool FillHeld(std::size_t most);
+    bool WritePort(std::string_view bytes);
+    /// The open port's state; nothing where it died.
+    std::optional<CSerialPort::LineState> AskPort();
 
     std::unique_ptr<CCableFinder> m_finder;
     PortOpener m_opener;
@@ -104,6 +114,7 @@ private:
     std::string_view m_held;             ///< bytes of `m_block` that nobody has taken
     std::error_code m_error;
     std::atomic<bool> m_abandoned = false;
+    std::atomic<bool> m_wasCut = false;
 };
 
 } // namespace skeldon

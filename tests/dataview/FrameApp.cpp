@@ -15,7 +15,7 @@
 
 namespace skeldon::test {
 
-CFrameApp::CFrameApp(const QString& language, const QString& settings)
+CFrameApp::CFrameApp(const QString& language, const QString& settings, const Adjust& adjust)
     : m_settingsFile(settings.isEmpty() ? m_folder.filePath(QStringLiteral("settings.ini"))
                                         : settings)
 {
@@ -40,6 +40,8 @@ CFrameApp::CFrameApp(const QString& language, const QString& settings)
         ++m_sheets;
         return m_acceptsSheet;
     };
+    if (adjust)
+        adjust(services);
     m_app = std::make_unique<CSkeldonApp>(std::move(services));
 }
 

@@ -10,6 +10,7 @@
 
 #include <QAction>
 
+#include <functional>
 #include <memory>
 
 namespace skeldon::test {
@@ -21,9 +22,12 @@ class CFrameApp
 public:
     static constexpr const char* SupportAddress = "https://support.example/recorders?in=ja";
 
+    /// What the program gets otherwise than the tests' programs do.
+    using Adjust = std::function<void(AppServices&)>;
+
     /// `settings` is used again where a test starts the program a second time.
     explicit CFrameApp(const QString& language = QStringLiteral("English"),
-                       const QString& settings = {});
+                       const QString& settings = {}, const Adjust& adjust = {});
     ~CFrameApp();
 
     /// The start sequence with these words; the window is shown then.

@@ -1,4 +1,6 @@
+#include "base/Clock.h"
 #include "skeldonctl/CommandLine.h"
+#include "skeldonctl/Connection.h"
 #include "skeldonctl/FileCommands.h"
 #include "skeldonctl/Messages.h"
 #include "skeldonctl/RecorderCommands.h"
@@ -10,6 +12,19 @@
 using namespace skeldon;
 
 namespace {
+
+/// The commands that talk to a recorder.
+template <class RecorderCommand>
+requires requires(const RecorderCommand& command)
+{
+    command.port;
+}
+ExitStatus Run(const RecorderCommand& command)
+{
+    CSystemClock clock;
+    CRecorderLink link = MakeLink(command.port, clock);
+    return Run(command, link);
+}
 
 ExitStatus Answer(const Refusal& refusal)
 {

@@ -52,15 +52,13 @@ std::optional<bool> Clears(const CRecorderLink& link, const StartCommand& comman
 
 } // namespace
 
-ExitStatus Run(const StartCommand& command)
+ExitStatus Run(const StartCommand& command, CRecorderLink& link)
 {
     CMeasureCondition condition;
     if (const std::error_code error = LoadProfile(command.profile, condition))
         return FailOn(command.profile, error);
     if (IsPast(command))
         return ExitStatus::Failed;
-    CSystemClock clock;
-    CRecorderLink link = MakeLink(command.port, clock);
     if (const ExitStatus connected = Connect(link); connected != ExitStatus::Done)
         return connected;
     if (!Fit(condition, link, command.fit))

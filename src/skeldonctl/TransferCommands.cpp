@@ -1,3 +1,4 @@
+#include "data/RecordFlags.h"
 #include "recorder/OnlineTime.h"
 #include "recorder/ReadBack.h"
 #include "skeldonctl/Connection.h"
@@ -101,6 +102,13 @@ ExitStatus DownloadRefused(int code)
     }
 }
 
+/// Whether the lines are all there, but the last one broke off.
+bool IsLastLineCut(const CRecorderLink& link, const CMeasureData& data)
+{
+    return link.m_timedOut && !data.IsEmpty() &&
+           data.Records().back().HasFlag(RecordFlag::Abnormal);
+}
+
 /// Reads the recorder back as the Get data command does: lines, analysis, year repair.
 void ReadRecorder(CRecorderLink& link, int expected, Transferred& transferred)
 {
@@ -110,8 +118,17 @@ void ReadRecorder(CRecorderLink& link, int expected, Transferred& transferred)
     const int received = ReadBack(link, expected, data, &observer);
     data.Analyse({.startMonth = link.m_month, .startDay = link.m_day, .now = Now()});
     transferred.told.yearRepaired = data.RepairYear();
-    if (received < expected)
+    if (received < expected || IsLastLineCut(link, data))
         transferred.status = ExitStatus::Incomplete;
+}
+
+/// How much came of a download that is not whole.
+std::string PartText(const CMeasureData& data, int expected)
+{
+    const auto received = std::to_string(data.GetSize());
+    return static_cast<int>(data.GetSize()) < expected
+               ? received + " of " + std::to_string(expected) + " lines came."
+               : "the last of " + received + " lines came in part.";
 }
 
 /// Waits for the end of the stream; an interruption stops it.
@@ -128,10 +145,8 @@ void WaitForStream(CRecorderLink& link, int seconds, CInterruption& interruption
 
 } // namespace
 
-ExitStatus Run(const StatusCommand& command)
+ExitStatus Run(const StatusCommand& command, CRecorderLink& link)
 {
-    CSystemClock clock;
-    CRecorderLink link = MakeLink(command.port, clock);
     if (const ExitStatus connected = Connect(link); connected != ExitStatus::Done)
         return connected;
     CStandardOutput output;
@@ -139,13 +154,11 @@ ExitStatus Run(const StatusCommand& command)
                                                         : StatusText(link, link.m_portName)));
 }
 
-ExitStatus Run(const GetCommand& command)
+ExitStatus Run(const GetCommand& command, CRecorderLink& link)
 {
     if (const ExitStatus checked = CheckTargets(command.dataFile, command.csvFile);
         checked != ExitStatus::Done)
         return checked;
-    CSystemClock clock;
-    CRecorderLink link = MakeLink(command.port, clock);
     if (const ExitStatus connected = Connect(link); connected != ExitStatus::Done)
         return connected;
     const int expected = link.StartDownload();
@@ -161,18 +174,15 @@ ExitStatus Run(const GetCommand& command)
     if (transferred.data.IsEmpty())
         Tell("No measured data is available.");
     else if (transferred.status == ExitStatus::Incomplete)
-        Tell("Failed to get the data: " + std::to_string(transferred.data.GetSize()) + " of " +
-             std::to_string(expected) + " lines came.");
+        Tell("Failed to get the data: " + PartText(transferred.data, expected));
     TellErrors(transferred.data);
     return Report(transferred, command.dataFile, command.csvFile, command.json);
 }
 
-ExitStatus Run(const OnlineCommand& command)
+ExitStatus Run(const OnlineCommand& command, CRecorderLink& link)
 {
     if (const ExitStatus checked = CheckTargets(command.dataFile, {}); checked != ExitStatus::Done)
         return checked;
-    CSystemClock clock;
-    CRecorderLink link = MakeLink(command.port, clock);
     if (const ExitStatus connected = Connect(link); connected != ExitStatus::Done)
         return connected;
     Transferred transferred;

@@ -1,13 +1,16 @@
 // A window of the toolkit with nothing in it, for comparison.
 #include <QApplication>
 #include <QMainWindow>
+#include <QPrintDialog>
 #include <QSvgRenderer>
 
 int main(int argc, char** argv)
 {
     const QApplication application(argc, argv);
-    const QSvgRenderer renderer; // the same modules as the program's
+    // The same modules as the program's.
+    const QSvgRenderer renderer;
     QMainWindow window;
+    window.setObjectName(QLatin1String(QPrintDialog::staticMetaObject.className()));
     window.setWindowTitle(QStringLiteral("empty-window"));
     window.resize(744, 500);
     window.show();

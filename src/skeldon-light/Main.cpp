@@ -4,6 +4,7 @@
 #include "app/SkeldonApp.h"
 #include "base/Version.h"
 #include "controls/AboutBox.h"
+#include "controls/ProgramStyle.h"
 #include "dataview/MainFrame.h"
 #include "recorder/RecorderPort.h"
 #include "resources/Pictures.h"
@@ -30,8 +31,8 @@ struct WaitAndDelete
     }
 };
 
-/// Draws the pictures while the window is being made, on time that nobody else wants. The icon
-/// comes when it has been drawn: the first window does not wait for it.
+/// Draws the pictures while the window comes up, on time that nobody else wants. The icon comes
+/// when it has been drawn: the first window does not wait for it.
 std::unique_ptr<QThread, WaitAndDelete> DrawPicturesBeside(QApplication& application)
 {
     std::unique_ptr<QThread, WaitAndDelete> thread(
@@ -54,8 +55,8 @@ int main(int argc, char** argv)
     // The toolkit has words of its own, "-display" among them, and would take what stands behind:
     // it gets the program's name alone.
     int toolkitCount = std::min(argc, 1);
+    QApplication::setStyle(new CProgramStyle);
     QApplication application(toolkitCount, argv);
-    const auto pictures = DrawPicturesBeside(application);
     QApplication::setApplicationName(QStringLiteral("SKELDON Light"));
     QApplication::setApplicationVersion(QString::fromLatin1(ProgramVersion));
     QApplication::setDesktopFileName(QStringLiteral("skeldon-light"));
@@ -84,6 +85,7 @@ int main(int argc, char** argv)
         frame.reset();
         return 0;
     }
+    const auto pictures = DrawPicturesBeside(application);
     const int status = QApplication::exec();
     skeldon.ExitInstance();
     frame.reset();

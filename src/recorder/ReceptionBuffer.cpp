@@ -79,6 +79,13 @@ std::string_view CReceptionBuffer::NextChunk()
 void CReceptionBuffer::WaitForBytes(std::unique_lock<std::mutex>& guard)
 {
     const auto hasArrived = [this] { return HasArrived(); };
+    const auto gather = [&] {
+        m_rxWanted = GatheredSize;
+        m_rxArrived.wait_for(guard, GatherTime, hasArrived);
+    };
+    gather();
+    if (m_rxWrite > m_rxRead || m_finished)
+        return;
     m_rxWanted = 1;
     if (m_whileWaiting) {
         while (!m_rxArrived.wait_for(guard, WaitStep, hasArrived)) {
@@ -88,8 +95,7 @@ void CReceptionBuffer::WaitForBytes(std::unique_lock<std::mutex>& guard)
         }
     }
     m_rxArrived.wait(guard, hasArrived);
-    m_rxWanted = GatheredSize;
-    m_rxArrived.wait_for(guard, GatherTime, hasArrived);
+    gather();
 }
 
 std::string CReceptionBuffer::TakeAll()

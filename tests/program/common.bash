@@ -287,9 +287,14 @@ cable_went() {
   same "the recorder's word" pulled "$answer"
   hide_adapter
 }
-# Until there is no box that tells of the failure, and the sign is there.
+# A failure is told of in a box, which is left; then the sign comes.
+after_box() { # what, command
+  local what=$1
+  shift
+  wait_for "the box that tells of $what" find_dialog
+  wait_for "$what" dismissed_and "$@"
+}
 dismissed_and() {
   ! find_dialog || press "$dialog" Return
   no_dialog && "$@"
 }
-ended_with_data() { dismissed_and has_unsaved; }

@@ -21,8 +21,10 @@ using namespace skeldon::test;
 
 namespace {
 
-/// Seconds of the recorder's time in one of the test's.
+/// Seconds of the recorder's time in one of the test's. A reservation must still lie ahead when it
+/// reaches the recorder, whose clock was set a few commands before.
 constexpr int TimeScale = 1000;
+constexpr int ReservedTimeScale = 50;
 constexpr int ShortestInterval = 14; // row of 1 second
 
 void Click(QWidget& button, int times = 1)
@@ -128,8 +130,9 @@ private slots:
         CFrameApp app(language);
         QVERIFY(app.Start({}));
         QCOMPARE(app.Frame().CurrentView(), ViewIndex::Setup);
+        const int timeScale = isReserved ? ReservedTimeScale : TimeScale;
         app.PlugIn({"--type", "50", "--alpha", "--lines", "12", "--time-scale",
-                    std::to_string(TimeScale)});
+                    std::to_string(timeScale)});
         QVERIFY(app.Connect());
         SetConditions(app);
         QCOMPARE(app.m_prompts->Boxes(), QStringList());
@@ -150,7 +153,7 @@ private slots:
 
         // The recorder measures alone, three minutes at least, behind the two of the reservation.
         constexpr int LeastSeconds = 180;
-        QTest::qWait((LeastSeconds + 120) * 1000 / TimeScale);
+        QTest::qWait((LeastSeconds + 120) * 1000 / timeScale);
         app.PlugInAgain();
         QVERIFY(app.Connect());
         GoToData(app);

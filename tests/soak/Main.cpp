@@ -35,6 +35,14 @@ const std::map<std::string, void (*)(const SoakOptions&)> Parts{
     {"commands", &GiveCommands},
 };
 
+/// The platform without a screen complains each time of what it can not do with a window.
+void WithoutOffscreenComplaints(QtMsgType /*type*/, const QMessageLogContext& /*context*/,
+                                const QString& text)
+{
+    if (!text.startsWith(QLatin1String("This plugin does not support")))
+        std::cerr << text.toStdString() << std::endl;
+}
+
 int RunParts(const std::vector<std::string>& parts, const SoakOptions& options)
 {
     for (const std::string& part : parts) {
@@ -84,6 +92,7 @@ int main(int argc, char** argv)
     const std::array ratios{"1", "1.5", "2"};
     if (!qEnvironmentVariableIsSet("QT_SCALE_FACTOR"))
         qputenv("QT_SCALE_FACTOR", ratios[options.seed % ratios.size()]);
+    qInstallMessageHandler(WithoutOffscreenComplaints);
     int toolkitCount = 1;
     QApplication application(toolkitCount, argv);
     return RunParts(parts, options);

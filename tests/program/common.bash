@@ -192,15 +192,25 @@ close_window() {
   window_ended
 }
 
-# The status bar's pane for the recorder's model holds a text exactly while one is connected.
-is_connected() { [ "$(darkest_of_pane)" -lt 110 ]; }
-is_disconnected() { [ "$(darkest_of_pane)" -gt 150 ] && [ "$(darkest_of_pane)" -lt 256 ]; }
-darkest_of_pane() { # from 0 to 255; 256 without a window
-  local WIDTH=0 HEIGHT=0
+# The status bar's pane for the recorder's model holds a text exactly while one is connected. A window
+# that has not painted itself yet is black all over.
+is_connected() {
+  tones_of_pane
+  [ "$darkest" -lt 110 ] && [ "$lightest" -gt 150 ]
+}
+is_disconnected() {
+  tones_of_pane
+  [ "$darkest" -gt 150 ]
+}
+tones_of_pane() { # from 0 to 255; without a window the darkest is -1
+  local WIDTH=0 HEIGHT=0 tones
+  darkest=-1 lightest=-1
   eval "$(xdotool getwindowgeometry --shell "$main" 2>/dev/null | grep -E '^(WIDTH|HEIGHT)=')"
-  [ "$WIDTH" -gt 0 ] || { echo 256 && return; }
-  import -silent -window "$main" -crop "90x11+$((WIDTH - 226))+$((HEIGHT - 15))" \
-    -colorspace gray -format '%[fx:round(255*minima)]' info: 2>/dev/null || echo 256
+  [ "$WIDTH" -gt 0 ] || return 0
+  tones=$(import -silent -window "$main" -crop "90x11+$((WIDTH - 226))+$((HEIGHT - 15))" \
+    -colorspace gray -format '%[fx:round(255*minima)] %[fx:round(255*maxima)]' info: 2>/dev/null) ||
+    return 0
+  read -r darkest lightest <<<"$tones"
 }
 
 # Keys go where the focus is; there is no window manager here that would move it.

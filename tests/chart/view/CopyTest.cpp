@@ -1,5 +1,7 @@
 #include "ChartApp.h"
 
+#include "support/window/EachRatio.h"
+
 #include <QApplication>
 #include <QClipboard>
 #include <QFontMetrics>
@@ -131,14 +133,7 @@ private:
 
 int main(int argc, char** argv)
 {
-    int failed = 0;
-    for (const double ratio : {1.0, 1.5, 2.0}) {
-        qputenv("QT_SCALE_FACTOR", QByteArray::number(ratio));
-        const QApplication application(argc, argv);
-        CopyTest test(ratio);
-        failed += QTest::qExec(&test, argc, argv);
-    }
-    return failed;
+    return RunAtEachRatio<CopyTest>(argc, argv);
 }
 
 #include "CopyTest.moc"

@@ -207,12 +207,13 @@ private slots:
                 app.Frame().close();
             isLost = isLost || !app.Frame().isVisible() || !app.m_prompts->m_shown.empty();
         };
+        // Behind the work the exit command runs, maybe before the key is let go; it asks about the
+        // data.
+        app.m_prompts->m_answers = {Answer::No};
         GetData(app);
         QVERIFY(isWanted);
         QVERIFY(!isLost);
         QCOMPARE(app.View().Data().GetSize(), std::size_t{400});
-        // Then the exit command runs, which asks about the data.
-        app.m_prompts->m_answers = {Answer::No};
         QTRY_VERIFY(!app.Frame().isVisible());
         QCOMPARE(app.m_prompts->Boxes(),
                  QStringList(QStringLiteral("The data is not saved. \nDo you want to save it?")));

@@ -123,6 +123,9 @@ void CProgressWindow::closeEvent(QCloseEvent* event)
 void CProgressWindow::showEvent(QShowEvent* event)
 {
     QDialog::showEvent(event);
+    // Back from the task bar, where it went while the work runs.
+    if (event->spontaneous())
+        return;
     const QWidget* owner = parentWidget();
     const QRect around = owner != nullptr ? QRect(owner->mapToGlobal(QPoint()), owner->size())
                                           : QGuiApplication::primaryScreen()->availableGeometry();

@@ -9,6 +9,7 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
 
 #include <array>
 #include <functional>
@@ -59,6 +60,7 @@ private slots:
     void JobBeginsWhenStripIsOnScreen();
     void JobLiesWithinOneCall();
     void CanBeUsedAgain();
+    void ComingBackFromTheTaskBarStartsNothing();
     void CannotBeClosedWhileJobRuns();
     void CannotBeClosedBeforeJob();
     void StandsInMiddleOfOwner();
@@ -152,6 +154,32 @@ void ProgressWindowTest::CanBeUsedAgain()
     strip.exec();
     strip.exec();
     QCOMPARE(runs, 2);
+}
+
+void ProgressWindowTest::ComingBackFromTheTaskBarStartsNothing()
+{
+    CProgressWindow strip(nullptr);
+    int runs = 0;
+    int hidden = 0;
+    QPoint place;
+    RunWith(strip, [&] {
+        // What would begin anew must not end in a circle.
+        if (++runs > 1)
+            return;
+        place = strip.pos() + QPoint(30, 40);
+        strip.move(place);
+        QCoreApplication::processEvents();
+        strip.windowHandle()->setWindowState(Qt::WindowMinimized);
+        QCoreApplication::processEvents();
+        hidden = strip.isMinimized() ? 1 : 0;
+        strip.windowHandle()->setWindowState(Qt::WindowNoState);
+        QCoreApplication::processEvents();
+        QTest::qWait(150); // longer than its timer
+        place -= strip.pos();
+    });
+    QCOMPARE(hidden, 1);
+    QCOMPARE(runs, 1);
+    QCOMPARE(place, QPoint());
 }
 
 void ProgressWindowTest::CannotBeClosedWhileJobRuns()

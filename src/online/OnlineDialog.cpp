@@ -76,6 +76,9 @@ COnlineCounter* COnlineDialog::MakeCounter(const QRect& place, Qt::Alignment sid
 void COnlineDialog::showEvent(QShowEvent* event)
 {
     QDialog::showEvent(event);
+    // Back from the task bar, where it went while the stream runs.
+    if (event->spontaneous())
+        return;
     const QWidget* const owner = parentWidget();
     const QRect around = owner != nullptr ? QRect(owner->mapToGlobal(QPoint()), owner->size())
                                           : QGuiApplication::primaryScreen()->availableGeometry();

@@ -9,6 +9,7 @@
 #include <QAccessible>
 #include <QLabel>
 #include <QTest>
+#include <QWindow>
 
 using namespace skeldon;
 using namespace skeldon::test;
@@ -245,6 +246,29 @@ private slots:
         QCOMPARE(run.m_dialog.m_elapsedText->GetText(), QStringLiteral("0"));
         run.m_dialog.OnSecond();
         QCOMPARE(run.m_dialog.m_elapsedText->GetText(), QStringLiteral("1"));
+        run.m_dialog.reject();
+        QVERIFY(run.End());
+    }
+
+    void ComingBackFromTheTaskBarStartsNothing()
+    {
+        COnlineApp app;
+        CStreamRecorder recorder(Endless(Sample));
+        QVERIFY(app.Attach(recorder.Port()));
+        app.Set("OnlineSecond", 4999);
+        CRun run(app);
+        QVERIFY(run.Start());
+        run.m_dialog.OnSecond();
+        run.m_dialog.OnSecond();
+        QCOMPARE(run.m_dialog.m_elapsedText->GetText(), QStringLiteral("1"));
+        app.Set("OnlineSecond", 30); // what a start would read
+        run.m_dialog.windowHandle()->setWindowState(Qt::WindowMinimized);
+        QCoreApplication::processEvents();
+        QVERIFY(run.m_dialog.isMinimized());
+        run.m_dialog.windowHandle()->setWindowState(Qt::WindowNoState);
+        QCoreApplication::processEvents();
+        QTest::qWait(150); // longer than the timer of the start
+        QCOMPARE(run.m_dialog.m_totalText->GetText(), QStringLiteral("4999"));
         run.m_dialog.reject();
         QVERIFY(run.End());
     }

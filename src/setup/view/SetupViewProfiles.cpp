@@ -151,6 +151,7 @@ bool CSetupView::SettleHostNumber()
         return false;
     m_state.m_current.SerialNo = offer.offered;
     m_form->ShowValue(SetupPanel::Id, m_state.m_current);
+    RefreshControls();
     return true;
 }
 

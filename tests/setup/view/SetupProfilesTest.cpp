@@ -20,6 +20,7 @@ private slots:
     void AddedProfileIsSelected();
     void AddEndsWithNinetyNineProfiles();
     void FailedSaveIsTold();
+    void FailedSaveUnderAnotherNumberCanBeRestored();
     void FolderThatCanNotBeWrittenIsTold();
     void UpdatedNumberMovesTheLine();
     void DeleteAsksForTheName();
@@ -90,6 +91,27 @@ void SetupProfilesTest::FailedSaveIsTold()
     app.Click(SetupButton::Update);
     QCOMPARE(app.m_prompts->Boxes().size(), 2);
     QVERIFY(app.Button(SetupButton::Update).isEnabled());
+}
+
+void SetupProfilesTest::FailedSaveUnderAnotherNumberCanBeRestored()
+{
+    CSetupApp app;
+    std::filesystem::create_directory(app.m_folder.Profiles() / "box.skp");
+    app.m_folder.WriteProfile("crate", "SerialNo=1\r\n");
+    app.Show();
+    app.ClickLine(0);
+    app.Click(SetupButton::Change);
+    app.Form().m_name->SetName(QStringLiteral("box"));
+    QVERIFY(!app.Button(SetupButton::Restore).isEnabled());
+    app.m_prompts->m_answers = {Answer::Yes, Answer::Ok};
+    app.Click(SetupButton::Add);
+    QCOMPARE(app.m_prompts->Boxes().back(), QStringLiteral("Could not save profile."));
+    // The number that was agreed to stays on show, and differs from the stored one.
+    QCOMPARE(app.Panel(SetupPanel::Id).Value(), 2);
+    QVERIFY(app.Can(CommandId::ConditionRestore));
+    QVERIFY(app.Button(SetupButton::Restore).isEnabled());
+    app.Click(SetupButton::Restore);
+    QCOMPARE(app.Panel(SetupPanel::Id).Value(), 1);
 }
 
 void SetupProfilesTest::FolderThatCanNotBeWrittenIsTold()

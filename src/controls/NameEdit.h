@@ -13,7 +13,9 @@ class CNameEdit : public CFilteredEdit
 public:
     explicit CNameEdit(QWidget* parent = nullptr);
 
-    /// Shows a name, whatever it holds.
+    /// Takes no more characters than that.
+    void SetLimit(int characters);
+    /// Shows a name, whatever it holds. One beyond the limit can only become shorter.
     void SetName(const QString& name);
     void setText(const QString& text) = delete;
 

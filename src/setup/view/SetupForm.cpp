@@ -116,7 +116,7 @@ void CSetupForm::MakeLabelAndList()
     m_label->setGeometry(setup_layout::NameLabel);
     m_label->setBuddy(m_name);
     m_name->setGeometry(setup_layout::NameBox);
-    m_name->setMaxLength(setup_layout::NameLimit);
+    m_name->SetLimit(setup_layout::NameLimit);
     m_name->setAccessibleName(Text(StringId::NameProfileName));
     m_list->setGeometry(setup_layout::List);
     for (QWidget* const child : {static_cast<QWidget*>(m_label), static_cast<QWidget*>(m_name),

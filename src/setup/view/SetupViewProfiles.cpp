@@ -16,8 +16,6 @@
 #include "setup/view/StartQuestion.h"
 #include "setup/view/StepRules.h"
 
-#include <algorithm>
-
 namespace skeldon {
 
 void CSetupView::SelectLine(int position)
@@ -39,10 +37,6 @@ void CSetupView::NameChanged(const QString& name)
 void CSetupView::ShowName()
 {
     const QString name = m_state.m_strName;
-    // A file that came from elsewhere may have a longer name; cut short it would be another one.
-    const int limit = std::max(setup_layout::NameLimit, static_cast<int>(name.size()));
-    if (m_form->m_name->maxLength() != limit)
-        m_form->m_name->setMaxLength(limit);
     m_form->m_name->SetName(name);
     m_state.m_strName = name;
 }

@@ -75,6 +75,7 @@ private slots:
     void RestoreBringsTheSavedValuesBack();
     void TypedNameDecidesBetweenAddAndUpdate();
     void LongForeignNameIsShownWhole();
+    void LongForeignNameCanOnlyBecomeShorter();
     void PressingThePressedButtonSwapsTheModes();
     void TemplateIsOfferedAFreeNumber();
     void TemplateModeAllowsAStartAlone();
@@ -414,6 +415,25 @@ void SetupViewTest::LongForeignNameIsShownWhole()
     QCOMPARE(app.m_folder.Read(name).Hazard, 1);
     app.ClickLine(1);
     QCOMPARE(app.Form().m_name->maxLength(), 32);
+}
+
+void SetupViewTest::LongForeignNameCanOnlyBecomeShorter()
+{
+    CSetupApp app;
+    app.m_folder.WriteProfile(std::string(50, 'n'), "SerialNo=5\r\n");
+    app.Show();
+    app.ClickLine(0);
+    CNameEdit& name = *app.Form().m_name;
+    name.setFocus();
+    QTest::keyClick(&name, Qt::Key_End);
+    for (int i = 0; i < 10; ++i)
+        QTest::keyClick(&name, Qt::Key_Backspace);
+    QTest::keyClicks(&name, QStringLiteral("xyz"));
+    QCOMPARE(app.State().m_strName, QString(40, QLatin1Char('n')));
+    name.selectAll();
+    QTest::keyClick(&name, Qt::Key_Delete);
+    QTest::keyClicks(&name, QString(40, QLatin1Char('x')));
+    QCOMPARE(app.State().m_strName, QString(32, QLatin1Char('x')));
 }
 
 void SetupViewTest::PressingThePressedButtonSwapsTheModes()

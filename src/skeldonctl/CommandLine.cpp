@@ -53,6 +53,13 @@ void AddPort(CLI::App& command, PortOption& port)
         });
 }
 
+/// For an option that counts as not given where its text is empty: a script's empty variable is
+/// refused.
+std::string IsGiven(const std::string& text)
+{
+    return text.empty() ? "nothing is given" : "";
+}
+
 void AddPath(CLI::App& command, const std::string& name, std::filesystem::path& path,
              const std::string& type, const std::string& description, bool isRequired)
 {
@@ -101,7 +108,8 @@ void AddRecorderCommands(CLI::App& app, Options& options)
     start->add_flag("--clear", options.start.clear,
                     "Clear the recorder's data and set its clock first");
     start->add_option("--at", options.at, "Start at this local time instead of at once")
-        ->type_name("\"YYYY-MM-DD HH:MM\"");
+        ->type_name("\"YYYY-MM-DD HH:MM\"")
+        ->check(IsGiven);
     start->add_flag("--fit", options.start.fit,
                     "Take the offered value where one does not fit the recorder");
     AddPort(*start, options.start.port);
@@ -141,12 +149,9 @@ void AddChart(CLI::App& app, Options& options)
     CLI::App* const chart = AddCommand(app, "chart", "Draw a data file as a picture");
     AddPath(*chart, "FILE", options.chart.file, "", "Data file (skd, sks)", true);
     AddPath(*chart, "-o,--output", options.chart.output, "OUT.png", "Picture to write", true);
-    const auto isGiven = [](const std::string& text) {
-        return text.empty() ? std::string("nothing is given") : std::string();
-    };
     chart->add_option("--size", options.size, "Size of the picture, 320x200 to 16384x16384")
         ->type_name("WxH")
-        ->check(isGiven);
+        ->check(IsGiven);
     chart->add_flag("--bars", options.chart.bars, "Bars instead of lines");
     chart
         ->add_option("--series", options.chart.series,
@@ -168,7 +173,7 @@ void AddChart(CLI::App& app, Options& options)
           std::tuple{"--to", &options.to, "Last local time that is shown"}})
         chart->add_option(name, *text, description)
             ->type_name("\"YYYY-MM-DD HH:MM:SS[.mmm]\"")
-            ->check(isGiven);
+            ->check(IsGiven);
     chart->add_flag("--elapsed", options.chart.elapsed, "Time since the first line on the axis");
 }
 

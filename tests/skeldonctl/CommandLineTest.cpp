@@ -139,6 +139,7 @@ TEST(CommandLine, RefusesWrongUsageWithStatusTwoAndAReason)
         {"online", "--seconds", "many"},
         {"online", "--seconds", "99999999999999999999"},
         {"start"},
+        {"start", "p.skp", "--at", ""},
         {"start", "p.skp", "--at", "tomorrow"},
         {"start", "p.skp", "--at", "2026-02-30 10:00"},
         {"info"},

@@ -13,6 +13,7 @@ import hashlib
 import json
 import os
 import pathlib
+import re
 import shlex
 import subprocess
 import sys
@@ -52,18 +53,38 @@ def tidy(path, arguments):
          *arguments], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True, check=False)
 
 
-def look(sources, arguments, folder):
-    """What is wrong with the sources, in words; nothing if all is well."""
-    if len(sources) == 1:
-        result = tidy(sources[0], arguments)
-        return result.stdout or "clang-tidy failed" if result.returncode else ""
+def join(sources, folder):
     joined = folder / (hashlib.sha256(str(sources).encode()).hexdigest()[:16] + ".cpp")
     joined.write_text("".join(f'#line 1 "{source}"\n{source.read_text()}\n' for source in sources))
-    if tidy(joined, arguments).returncode == 0:
-        return ""
-    middle = len(sources) // 2
-    return (look(sources[:middle], arguments, folder)
-            + look(sources[middle:], arguments, folder))
+    return joined
+
+
+def groups(sources, arguments, folder):
+    """The sources in groups that can each stand in one text."""
+    if len(sources) == 1:
+        return [sources]
+    compiled = subprocess.run(
+        ["clang++", "-fsyntax-only", "-ferror-limit=0", "-fno-caret-diagnostics", *arguments,
+         str(join(sources, folder))], stderr=subprocess.PIPE, text=True, check=False)
+    if compiled.returncode == 0:
+        return [sources]
+    at_odds = set(re.findall(r"^(.+?):\d+:\d+: (?:fatal )?error:", compiled.stderr, re.MULTILINE))
+    others = [source for source in sources if str(source) in at_odds]
+    if not others or len(others) == len(sources):
+        others = sources[len(sources) // 2:]
+    rest = [source for source in sources if source not in others]
+    return groups(rest, arguments, folder) + groups(others, arguments, folder)
+
+
+def look(sources, arguments, folder):
+    """What is wrong with the sources, in words; nothing if all is well."""
+    findings = ""
+    for group in groups(sources, arguments, folder):
+        if len(group) == 1 or tidy(join(group, folder), arguments).returncode != 0:
+            results = [tidy(source, arguments) for source in group]
+            findings += "".join(result.stdout or "clang-tidy failed\n"
+                                for result in results if result.returncode != 0)
+    return findings
 
 
 def main():

@@ -19,4 +19,10 @@ char* WriteFixedExact(char* out, double value, int decimals)
     return std::to_chars(out, out + FixedTextLimit, value, std::chars_format::fixed, decimals).ptr;
 }
 
+std::string FixedText(double value, int decimals)
+{
+    char text[FixedTextLimit];
+    return {text, WriteFixedExact(text, value, decimals)};
+}
+
 } // namespace skeldon

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <string>
 
 namespace skeldon {
 
@@ -64,6 +65,9 @@ char* WriteZeroPadded(char* out, std::uint64_t value, int width);
 
 /// "%.<decimals>f" the long way, exact for every value, "inf" and "nan" included.
 char* WriteFixedExact(char* out, double value, int decimals);
+
+/// The same as a text of its own.
+std::string FixedText(double value, int decimals);
 
 /// "%.<Decimals>f" of the C locale whatever the user's locale is, to the last digit; room for
 /// `FixedTextLimit` characters.

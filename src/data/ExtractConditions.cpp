@@ -48,8 +48,7 @@ bool IsChannel(std::uint16_t channel)
 
 void AppendLevel(std::string& text, double level)
 {
-    char buffer[FixedTextLimit];
-    text.append(buffer, WriteFixedExact(buffer, level, LevelDecimals));
+    text += FixedText(level, LevelDecimals);
     text += ',';
 }
 

@@ -11,12 +11,6 @@ namespace skeldon {
 
 namespace {
 
-std::string FixedWords(double value, int decimals)
-{
-    char text[FixedTextLimit];
-    return {text, WriteFixedExact(text, value, decimals)};
-}
-
 /// "2026-03-04 05:06:07.010"
 std::string TimeWords(const CMeasureRecord& record)
 {
@@ -56,7 +50,7 @@ std::string RangeWords(const CMeasureData& data, double CMeasureRecord::*value,
                        std::string_view unit)
 {
     const auto [lowest, highest] = std::ranges::minmax(data.Records(), {}, value);
-    return FixedWords(lowest.*value, 1) + " to " + FixedWords(highest.*value, 1) + ' ' +
+    return FixedText(lowest.*value, 1) + " to " + FixedText(highest.*value, 1) + ' ' +
            std::string(unit);
 }
 
@@ -79,7 +73,7 @@ void AddLines(CTextTable& table, const CMeasureData& data)
         return;
     table.Add("First line", TimeWords(data.Records().front()));
     table.Add("Last line", TimeWords(data.Records().back()));
-    table.Add("Largest", FixedWords(data.m_maxAbs, 2) + " G");
+    table.Add("Largest", FixedText(data.m_maxAbs, 2) + " G");
     if (data.m_hasTemperature)
         table.Add("Temperature", RangeWords(data, &CMeasureRecord::m_temperature, "C"));
     if (data.m_hasHumidity)

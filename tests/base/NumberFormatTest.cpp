@@ -85,6 +85,15 @@ TEST(WriteFixed, GivesThePrintfTextOfRandomValues)
     }
 }
 
+TEST(FixedText, GivesThePrintfTextOfAnyNumberOfDecimals)
+{
+    EXPECT_EQ(FixedText(2.5, 0), "2");
+    EXPECT_EQ(FixedText(-0.25, 1), "-0.2");
+    EXPECT_EQ(FixedText(1.005, 2), "1.00");
+    EXPECT_EQ(FixedText(-0.0, 1), "-0.0");
+    EXPECT_EQ(FixedText(std::numeric_limits<double>::max(), 6).size(), std::size_t{316});
+}
+
 TEST(WriteInt, WritesEveryLengthAndSign)
 {
     char buffer[24];

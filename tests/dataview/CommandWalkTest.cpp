@@ -12,6 +12,7 @@
 #include <QClipboard>
 #include <QDir>
 #include <QImage>
+#include <QPointer>
 #include <QTest>
 #include <QTimer>
 
@@ -75,7 +76,7 @@ public:
 
 private:
     QTimer m_timer;
-    QWidget* m_seen = nullptr;
+    QPointer<QWidget> m_seen; ///< another one may come to stand in its place
 };
 
 } // namespace

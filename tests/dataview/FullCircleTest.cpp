@@ -12,6 +12,7 @@
 #include "setup/view/SetupView.h"
 
 #include <QApplication>
+#include <QPointer>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
@@ -67,7 +68,7 @@ private:
 
     CFrameApp& m_app;
     QTimer m_timer;
-    QWidget* m_seen = nullptr;
+    QPointer<QWidget> m_seen; ///< another one may come to stand in its place
 };
 
 /// Edits conditions on the panel and keeps them as a profile: 0.5 G, a line a second, at once,

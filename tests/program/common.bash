@@ -188,7 +188,7 @@ window_ended() {
   same "exit status" 0 "$status"
 }
 close_window() {
-  press "$main" alt+f x
+  press_until "the program's end" "alt+f x" is_gone "$window_id"
   window_ended
 }
 
@@ -229,6 +229,7 @@ press() { # window, keys
   xdotool key --window 0 --delay 20 "${@:2}"
 }
 write() { # window, text
+  wait_for "the window's look" is_settled "$1"
   focus "$1"
   xdotool type --window 0 --delay 5 "$2"
 }
@@ -236,37 +237,39 @@ click() { # window, x, y, button
   xdotool mousemove --sync --window "$1" "$2" "$3" click "${4:-1}"
 }
 
-# Presses again until the sign comes: a window that is being made or just lost its dialog drops keys.
-press_until() { # what, keys, command
-  local what=$1 keys=$2 end=$((SECONDS + WAIT_S))
+# Acts again until the sign comes: a window that is being made or just lost its dialog, and a button
+# that is just being enabled, drop keys and clicks.
+act_until() { # what, action, command
+  local what=$1 action=$2 end=$((SECONDS + WAIT_S))
   shift 2
   until "$@"; do
     [ "$SECONDS" -lt "$end" ] || fail "$what did not come"
-    # shellcheck disable=SC2086 # several keys
-    press "$main" $keys
-    for _ in $(seq 20); do
-      ! "$@" || return 0
-      sleep 0.1
-    done
-  done
-}
-# The same with the mouse: a button that is just being enabled drops its click.
-click_until() { # what, x, y, command
-  local what=$1 x=$2 y=$3 end=$((SECONDS + WAIT_S))
-  shift 3
-  until "$@"; do
-    [ "$SECONDS" -lt "$end" ] || fail "$what did not come"
-    click "$main" "$x" "$y"
+    eval "$action"
     for _ in $(seq 30); do
       ! "$@" || return 0
       sleep 0.1
     done
   done
 }
+press_until() { act_until "$1" "press $main $2" "${@:3}"; }
+click_until() { act_until "$1" "click $main $2 $3" "${@:4}"; }
 dialog_after() { find_dialog && [ "$dialog" != "$1" ]; }
+is_left() { ! visible --classname '^skeldon-light' | grep -qx "$1"; }
+answer() { # keys, with which the dialog that stands goes
+  act_until "the end of the dialog" "press $dialog $*" is_left "$dialog"
+}
 leave_dialog() { # keys
-  press "$dialog" "$@"
-  wait_for "the end of the dialog" no_dialog
+  answer "$@"
+  wait_for "the end of all dialogs" no_dialog
+}
+
+# Twice the same picture, and not the black one of a window that has not painted itself.
+look=
+is_settled() { # window, part of it
+  local before=$look
+  look=$(import -silent -window "$1" ${2:+-crop "$2"} -format '%[fx:maxima>0.5] %#' info: 2>/dev/null) ||
+    look=
+  [ "$look" = "$before" ] && [ "${look%% *}" = 1 ]
 }
 # The setup view is 744 wide in English and Japanese, the data view less.
 setup_view() { [ "$(width_of_main)" -ge 700 ]; }
@@ -286,6 +289,16 @@ esac
 has_unsaved() { title_is "$unsaved"; }
 
 # --- roads that several tests walk ---
+
+# In the setup view: a template is chosen, so that a start asks nothing else. Its conditions appear in
+# the panels, the interval's among them.
+choose_template() {
+  act_until "the template's conditions" 'press "$main" alt+v t; click "$main" 80 162; press "$main" m' \
+    has_conditions
+}
+has_conditions() {
+  [ "$(import -silent -window "$main" -crop 76x20+408+105 -format '%[fx:maxima>0.5]' info: 2>/dev/null)" = 1 ]
+}
 
 records() { # data file: number of its lines
   "$PROGRAMS/skeldonctl" info --json "$1" | python3 -c 'import json, sys; print(json.load(sys.stdin)["records"])'

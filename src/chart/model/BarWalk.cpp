@@ -13,12 +13,8 @@ CBarWalk::CBarWalk(const CLineIndex& index, const WalkView& view, int currentLin
     , m_clipTop(clipTop)
     , m_clipBottom(std::max(clipTop, clipBottom))
     , m_half(view.window.HalfBar())
-{
-    for (const Series series : AllSeries) {
-        if (view.drawn[Index(series)])
-            m_series.push_back(series);
-    }
-}
+    , m_series(SeriesIn(view.drawn))
+{}
 
 void CBarWalk::WalkLines(int first, int last, std::vector<ChartBarFill>& fills) const
 {

@@ -39,12 +39,8 @@ LineEnds InShortColumns(const LineEnds& ends)
 CLineWalk::CLineWalk(const CLineIndex& index, const WalkView& view)
     : m_index(index)
     , m_view(view)
-{
-    for (const Series series : AllSeries) {
-        if (view.drawn[Index(series)])
-            m_series.push_back(series);
-    }
-}
+    , m_series(SeriesIn(view.drawn))
+{}
 
 inline ChartStroke CLineWalk::StrokeOf(const LineEnds& ends, Series series, StrokeKind kind,
                                        bool isDimmed) const

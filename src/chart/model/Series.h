@@ -6,6 +6,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <vector>
 
 namespace skeldon {
 
@@ -60,6 +61,17 @@ inline constexpr std::uint32_t DefaultMarkColour = 0x0000FF;
 [[nodiscard]] constexpr const SeriesInfo& Info(Series series)
 {
     return SeriesTable[Index(series)];
+}
+
+/// The series whose flag is set, in table order.
+[[nodiscard]] inline std::vector<Series> SeriesIn(const SeriesFlags& flags)
+{
+    std::vector<Series> series;
+    for (const Series each : AllSeries) {
+        if (flags[Index(each)])
+            series.push_back(each);
+    }
+    return series;
 }
 
 /// A value as it is drawn and measured: what is no number counts as 0.

@@ -19,12 +19,6 @@ constexpr double HighestDegrees = 50.001;
 constexpr double PercentPerUnit = 4.0;
 constexpr double HighestPercent = 100.001;
 
-std::string Fixed(double value, int decimals)
-{
-    char text[FixedTextLimit];
-    return {text, WriteFixedExact(text, value, decimals)};
-}
-
 } // namespace
 
 std::string AccelerationLabel(double value, DisplayUnit unit)
@@ -33,17 +27,17 @@ std::string AccelerationLabel(double value, DisplayUnit unit)
     case DisplayUnit::G:
         break;
     case DisplayUnit::MetresPerSecond2:
-        return Fixed(value * MetresPerSecond2PerG, 1);
+        return FixedText(value * MetresPerSecond2PerG, 1);
     case DisplayUnit::Gal:
-        return Fixed(value * GalPerG, 0);
+        return FixedText(value * GalPerG, 0);
     }
-    return Fixed(value, 1);
+    return FixedText(value, 1);
 }
 
 std::string TemperatureLabel(double value)
 {
     const double degrees = DegreesPerUnit * value;
-    return std::fabs(degrees) <= HighestDegrees ? Fixed(degrees, 1) : std::string();
+    return std::fabs(degrees) <= HighestDegrees ? FixedText(degrees, 1) : std::string();
 }
 
 std::string HumidityLabel(double value)
@@ -51,7 +45,7 @@ std::string HumidityLabel(double value)
     const double percent = PercentPerUnit * value;
     if (!(percent >= 0.0 && percent <= HighestPercent))
         return {};
-    const std::string text = Fixed(percent, 1);
+    const std::string text = FixedText(percent, 1);
     return text.back() == '0' ? text.substr(0, text.size() - 2) : std::string();
 }
 

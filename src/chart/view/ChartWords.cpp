@@ -57,12 +57,9 @@ QString CurrentLineWords(const CChartModel& model)
     const CMeasureRecord& line = model.m_index.Line(model.m_currentLine);
     QString words =
         FormatText(Text(StringId::ValueLineAt), {model.m_currentLine + 1, InstantWords(line)});
-    const SeriesFlags drawn = model.DrawnSeries();
-    for (const Series series : AllSeries) {
-        if (drawn[Index(series)])
-            words +=
-                FormatText(Text(StringId::ValueOfSeries),
-                           {Text(Names[Index(series)]), ValueWords(line, series, model.m_unit)});
+    for (const Series series : SeriesIn(model.DrawnSeries())) {
+        words += FormatText(Text(StringId::ValueOfSeries),
+                            {Text(Names[Index(series)]), ValueWords(line, series, model.m_unit)});
     }
     return words;
 }

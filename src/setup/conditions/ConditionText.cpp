@@ -9,8 +9,7 @@ namespace skeldon {
 std::string SamplingListText(int row)
 {
     constexpr double SecondsPerCount = 0.0001; // of the table's period
-    char buffer[FixedTextLimit];
-    std::string text(buffer, WriteFixed<4>(buffer, SamplingTable::Period(row) * SecondsPerCount));
+    std::string text = FixedText(SamplingTable::Period(row) * SecondsPerCount, 4);
     text += " sec";
     if (SamplingTable::IsTrace(row))
         text += " Trace mode";
@@ -26,8 +25,7 @@ std::string IntervalListText(int row)
 std::string LevelText(int tenths)
 {
     constexpr double TenthsPerG = 10.0;
-    char buffer[FixedTextLimit];
-    return {buffer, WriteFixed<1>(buffer, tenths / TenthsPerG)};
+    return FixedText(tenths / TenthsPerG, 1);
 }
 
 } // namespace skeldon

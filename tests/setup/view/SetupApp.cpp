@@ -12,6 +12,7 @@
 #include <QTest>
 
 #include <sstream>
+#include <utility>
 
 namespace skeldon::test {
 
@@ -143,6 +144,20 @@ QStringList CSetupApp::Lines()
     for (int i = 0; i < Form().m_list->count(); ++i)
         lines << Form().m_list->item(i)->text();
     return lines;
+}
+
+void CSetupApp::DuringTheTalk(std::function<void()> act, std::function<bool()> isTime)
+{
+    auto* const look = new QTimer(m_view.get());
+    QObject::connect(look, &QTimer::timeout, look,
+                     [this, look, act = std::move(act), isTime = std::move(isTime)] {
+                         if (!m_app->Conversation().IsUnderWay() || (isTime && !isTime()))
+                             return;
+                         look->stop();
+                         look->deleteLater();
+                         act();
+                     });
+    look->start(1);
 }
 
 void CSetupApp::Load(const CMeasureCondition& condition)

@@ -7,6 +7,7 @@
 #include "support/Process.h"
 #include "support/window/TestApp.h"
 
+#include <QPointer>
 #include <QTimer>
 
 #include <deque>
@@ -85,6 +86,8 @@ public:
     void Press(SetupStep step);
     /// Texts of the list.
     [[nodiscard]] QStringList Lines();
+    /// Does it once, as soon as the recorder is being spoken to and `isTime` holds.
+    void DuringTheTalk(std::function<void()> act, std::function<bool()> isTime = {});
     /// Puts conditions on show, as a profile would.
     void Load(const CMeasureCondition& condition);
 
@@ -109,7 +112,7 @@ private:
     std::unique_ptr<CBackgroundProgram> m_recorder;
     std::size_t m_traceRead = 0;
     QTimer m_watch;
-    QWidget* m_seen = nullptr; ///< the dialog that was taken care of
+    QPointer<QWidget> m_seen; ///< the dialog that was taken care of
 };
 
 } // namespace skeldon::test

@@ -227,7 +227,7 @@ void StartTest::SnapshotOfTheConditionsIsSent()
     app.Load(ConditionsOf(Find("10")));
     app.Play(Options(Find("10"), {}));
     // The conditions change while the commands go out.
-    QTimer::singleShot(1, &app.View(), [&app] { app.State().m_current.Threshold = 1; });
+    app.DuringTheTalk([&app] { app.State().m_current.Threshold = 1; });
     app.m_prompts->m_answers = {Answer::Yes};
     app.Command(CommandId::StartPrompt);
     QCOMPARE(app.State().m_current.Threshold, 1);

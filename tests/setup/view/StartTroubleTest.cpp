@@ -241,14 +241,16 @@ void StartTroubleTest::RecorderUnpluggedInTheMiddleEndsTheStart()
     CSetupApp app;
     app.Show();
     app.Load({});
-    app.Play({"--type", "10", "--fault", "delay=60"});
+    app.Play({"--type", "10", "--fault", "delay=200"});
     app.m_clock.m_speed = 100;
     app.m_prompts->m_answers = {Answer::Yes};
-    QTimer::singleShot(150, &app.View(), [&app] { app.Unplug(); });
+    QByteArray sent;
+    app.DuringTheTalk([&app] { app.Unplug(); },
+                      [&] { return (sent += app.Sent()).startsWith("mi5"); });
     app.Command(CommandId::StartPrompt);
     QCOMPARE(app.m_prompts->Boxes().back(), CouldNotStart);
     QCOMPARE(app.m_cableDialogs, 0);
-    const QByteArray sent = app.Sent("mi5");
+    sent += app.Sent();
     QVERIFY2(sent.startsWith("mi5"), sent.constData());
     QVERIFY2(!sent.contains('t'), sent.constData());
     // The view is there for the next one.
@@ -299,7 +301,7 @@ void StartTroubleTest::CommandsWaitWhileTheRecorderIsSpokenTo()
     app.Load({});
     app.Play({"--type", "10", "--fault", "delay=30"});
     bool isWaitCursor = false;
-    QTimer::singleShot(60, &app.View(), [&] {
+    app.DuringTheTalk([&] {
         isWaitCursor = QGuiApplication::overrideCursor() != nullptr;
         app.Command(CommandId::ConditionChange);
         app.Command(CommandId::Exit);

@@ -5,7 +5,6 @@
 
 #include <CLI/CLI.hpp>
 #include <charconv>
-#include <map>
 #include <sstream>
 #include <tuple>
 
@@ -73,6 +72,44 @@ void AddPath(CLI::App& command, const std::string& name, std::filesystem::path& 
         });
 }
 
+/// Read as words: by itself the parser takes the enumerators' numbers, too.
+template <class Unit>
+void AddUnit(CLI::App& command, Unit& unit)
+{
+    command
+        .add_option_function<std::string>(
+            "--unit",
+            [&unit](const std::string& text) {
+                unit = text == "g"     ? Unit::G
+                       : text == "gal" ? Unit::Gal
+                                       : Unit::MetresPerSecondSquared;
+            },
+            "Unit of the axes: g, ms2 or gal")
+        ->type_name("UNIT")
+        ->transform(CLI::IsMember({"g", "ms2", "gal"}, CLI::ignore_case));
+}
+
+/// Digits and nothing else: by itself the parser takes "010" for eight.
+void AddSeconds(CLI::App& command, int& seconds)
+{
+    const auto read = [](const std::string& text, int& value) {
+        const char* const end = text.data() + text.size();
+        const auto [behind, error] = std::from_chars(text.data(), end, value);
+        return error == std::errc() && behind == end && value >= LeastOnlineSeconds &&
+               value <= MostOnlineSeconds;
+    };
+    command
+        .add_option_function<std::string>(
+            "--seconds", [&seconds, read](const std::string& text) { (void)read(text, seconds); },
+            "How long, 1 to 4999 seconds")
+        ->type_name("N")
+        ->required()
+        ->check([read](const std::string& text) {
+            int value = 0;
+            return read(text, value) ? std::string() : "\"" + text + "\" is not 1 to 4999 seconds";
+        });
+}
+
 void AddJson(CLI::App& command, bool& json, bool* records)
 {
     command.add_flag("--json", json, "Print one JSON object");
@@ -93,10 +130,7 @@ void AddRecorderCommands(CLI::App& app, Options& options)
     AddPort(*get, options.get.port);
 
     CLI::App* const online = AddCommand(app, "online", "Record a live stream of the axes");
-    online->add_option("--seconds", options.online.seconds, "How long, 1 to 4999 seconds")
-        ->type_name("N")
-        ->required()
-        ->check(CLI::Range(LeastOnlineSeconds, MostOnlineSeconds));
+    AddSeconds(*online, options.online.seconds);
     AddPath(*online, "-o,--output", options.online.dataFile, "FILE.skd", "Save as a data file",
             false);
     AddJson(*online, options.online.json, &options.online.withRecords);
@@ -130,12 +164,7 @@ void AddFileCommands(CLI::App& app, Options& options)
     AddPath(*csv, "FILE", options.csv.file, "", "Data file (skd, sks)", true);
     AddPath(*csv, "-o,--output", options.csv.output, "OUT.csv",
             "CSV file to write; standard output without it", false);
-    csv->add_option("--unit", options.csv.options.unit, "Unit of the axes: g, ms2 or gal")
-        ->type_name("UNIT")
-        ->transform(CLI::CheckedTransformer(
-            std::map<std::string, CsvUnit>{
-                {"g", CsvUnit::G}, {"ms2", CsvUnit::MetresPerSecondSquared}, {"gal", CsvUnit::Gal}},
-            CLI::ignore_case));
+    AddUnit(*csv, options.csv.options.unit);
     csv->add_flag("--ravelin", options.csv.options.ravelin,
                   "The form of the older tools; no other option then counts");
     csv->add_flag("--two-fields", options.twoFields, "Date and time in a field each");
@@ -161,13 +190,7 @@ void AddChart(CLI::App& app, Options& options)
             const bool isKnown = text.find_first_not_of("xyzrth") == std::string::npos;
             return isKnown ? std::string() : "\"" + text + "\" holds other letters than xyzrth";
         });
-    chart->add_option("--unit", options.chart.unit, "Unit of the axes: g, ms2 or gal")
-        ->type_name("UNIT")
-        ->transform(CLI::CheckedTransformer(
-            std::map<std::string, ChartUnit>{{"g", ChartUnit::G},
-                                             {"ms2", ChartUnit::MetresPerSecondSquared},
-                                             {"gal", ChartUnit::Gal}},
-            CLI::ignore_case));
+    AddUnit(*chart, options.chart.unit);
     for (const auto& [name, text, description] :
          {std::tuple{"--from", &options.from, "First local time that is shown"},
           std::tuple{"--to", &options.to, "Last local time that is shown"}})

@@ -80,6 +80,22 @@ TEST(CommandLine, HasAllColumnsOfCsvInGWithoutOptions)
     EXPECT_TRUE(csv.options.humidity);
 }
 
+TEST(CommandLine, ReadsTheUnitAsAWordInAnyLetterCase)
+{
+    const auto unit = [](const std::string& word) {
+        return Parsed<CsvCommand>({"csv", "f.skd", "--unit", word}).options.unit;
+    };
+    EXPECT_EQ(unit("g"), CsvUnit::G);
+    EXPECT_EQ(unit("MS2"), CsvUnit::MetresPerSecondSquared);
+    EXPECT_EQ(unit("Gal"), CsvUnit::Gal);
+}
+
+TEST(CommandLine, ReadsSecondsAsADecimalNumber)
+{
+    EXPECT_EQ(Parsed<OnlineCommand>({"online", "--seconds", "4999"}).seconds, 4999);
+    EXPECT_EQ(Parsed<OnlineCommand>({"online", "--seconds", "060"}).seconds, 60);
+}
+
 TEST(CommandLine, ReadsAReservation)
 {
     const auto start =
@@ -137,6 +153,8 @@ TEST(CommandLine, RefusesWrongUsageWithStatusTwoAndAReason)
         {"online", "--seconds", "5000"},
         {"online", "--seconds", "-1"},
         {"online", "--seconds", "many"},
+        {"online", "--seconds", "0x10"},
+        {"online", "--seconds", "5.0"},
         {"online", "--seconds", "99999999999999999999"},
         {"start"},
         {"start", "p.skp", "--at", ""},
@@ -146,6 +164,7 @@ TEST(CommandLine, RefusesWrongUsageWithStatusTwoAndAReason)
         {"info", "a.skd", "b.skd"},
         {"convert", "a.skd"},
         {"csv", "a.skd", "--unit", "furlong"},
+        {"csv", "a.skd", "--unit", "1"},
         {"chart", "a.skd"},
         {"chart", "-o", "a.png"},
         {"chart", "a.skd", "-o", ""},
@@ -161,6 +180,7 @@ TEST(CommandLine, RefusesWrongUsageWithStatusTwoAndAReason)
         {"chart", "a.skd", "-o", "a.png", "--size", "320x99999999999999999999"},
         {"chart", "a.skd", "-o", "a.png", "--series", "xq"},
         {"chart", "a.skd", "-o", "a.png", "--unit", "furlong"},
+        {"chart", "a.skd", "-o", "a.png", "--unit", "2"},
         {"chart", "a.skd", "-o", "a.png", "--from", ""},
         {"chart", "a.skd", "-o", "a.png", "--from", "2026-03-04 05:06"},
         {"chart", "a.skd", "-o", "a.png", "--to", "2026-02-30 05:06:07"},

@@ -2,6 +2,7 @@
 
 #include "files/CsvFile.h"
 #include "files/DataFile.h"
+#include "files/platform/KeptCopy.h"
 #include "skeldonctl/DataSetJson.h"
 #include "skeldonctl/DataSetText.h"
 #include "skeldonctl/Messages.h"
@@ -20,10 +21,15 @@ ExitStatus LoadDataFile(const std::filesystem::path& path, CMeasureData& data)
     return ExitStatus::Done;
 }
 
-bool IsSameFile(const std::filesystem::path& one, const std::filesystem::path& other)
+ExitStatus CheckInputStays(const std::filesystem::path& file, const std::filesystem::path& target)
 {
     std::error_code ignored;
-    return std::filesystem::equivalent(one, other, ignored);
+    if (std::filesystem::equivalent(file, target, ignored))
+        return FailOn(target, "is the input itself");
+    if (IsKeptCopy(file, target))
+        return FailOn(file, "is kept of " + target.string() +
+                                " and would go away with this save; rename it first");
+    return ExitStatus::Done;
 }
 
 ExitStatus Run(const InfoCommand& command)
@@ -40,8 +46,9 @@ ExitStatus Run(const InfoCommand& command)
 
 ExitStatus Run(const ConvertCommand& command)
 {
-    if (IsSameFile(command.file, TargetOf(command.output, "skd")))
-        return FailOn(command.output, "is the input itself");
+    if (const ExitStatus checked = CheckInputStays(command.file, TargetOf(command.output, "skd"));
+        checked != ExitStatus::Done)
+        return checked;
     CMeasureData data;
     if (const ExitStatus loaded = LoadDataFile(command.file, data); loaded != ExitStatus::Done)
         return loaded;
@@ -50,8 +57,11 @@ ExitStatus Run(const ConvertCommand& command)
 
 ExitStatus Run(const CsvCommand& command)
 {
-    if (!command.output.empty() && IsSameFile(command.file, TargetOf(command.output, "csv")))
-        return FailOn(command.output, "is the input itself");
+    if (!command.output.empty()) {
+        const ExitStatus checked = CheckInputStays(command.file, TargetOf(command.output, "csv"));
+        if (checked != ExitStatus::Done)
+            return checked;
+    }
     CMeasureData data;
     if (const ExitStatus loaded = LoadDataFile(command.file, data); loaded != ExitStatus::Done)
         return loaded;

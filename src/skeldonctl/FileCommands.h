@@ -14,7 +14,9 @@ ExitStatus Run(const CsvCommand& command);
 
 /// Reads and analyses a data file; tells what is wrong with it.
 [[nodiscard]] ExitStatus LoadDataFile(const std::filesystem::path& path, CMeasureData& data);
-/// Whether both paths name one file.
-[[nodiscard]] bool IsSameFile(const std::filesystem::path& one, const std::filesystem::path& other);
+/// Refuses, with a message, a target whose saving would cost the input: one that is the input, or
+/// one of which the input is a copy kept by a save that failed.
+[[nodiscard]] ExitStatus CheckInputStays(const std::filesystem::path& file,
+                                         const std::filesystem::path& target);
 
 } // namespace skeldon

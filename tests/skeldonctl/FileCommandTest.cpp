@@ -213,6 +213,30 @@ TEST_F(FileCommand, NoneWritesToItsInput)
     EXPECT_FALSE(std::filesystem::exists(m_file + ".bak"));
 }
 
+TEST_F(FileCommand, RefusesASaveThatWouldTakeItsInputAway)
+{
+    // A save that succeeds removes what failed ones kept.
+    const std::string broken = m_folder.Path("broken.skd").string();
+    WriteText(broken, "half a f");
+    for (const char* suffix : {".bak", ".bak1"}) {
+        const std::string kept = broken + suffix;
+        WriteText(kept, DataFileText());
+        const Outcome outcome = Tool({"convert", kept, broken});
+        EXPECT_EQ(outcome.status, 1);
+        EXPECT_EQ(outcome.err.find("skeldonctl: " + kept + ": "), 0U) << outcome.err;
+        EXPECT_EQ(std::ranges::count(outcome.err, '\n'), 1) << outcome.err;
+        EXPECT_EQ(ReadText(kept), DataFileText());
+        EXPECT_EQ(ReadText(broken), "half a f");
+    }
+    const std::string rows = m_folder.Path("rows.csv.bak").string();
+    WriteText(rows, DataFileText());
+    EXPECT_EQ(Tool({"csv", rows, "-o", m_folder.Path("rows.csv").string()}).status, 1);
+    EXPECT_EQ(ReadText(rows), DataFileText());
+    EXPECT_FALSE(std::filesystem::exists(m_folder.Path("rows.csv")));
+    EXPECT_EQ(Tool({"convert", broken + ".bak", m_folder.Path("whole.skd").string()}).status, 0);
+    EXPECT_EQ(ReadText(broken + ".bak"), DataFileText());
+}
+
 TEST_F(FileCommand, TellsPathAndReasonInOneLineWhereTheInputCanNotBeRead)
 {
     const std::string nothing = m_folder.Path("nothing.skd").string();

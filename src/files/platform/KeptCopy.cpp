@@ -123,6 +123,16 @@ std::filesystem::path KeptName(const std::filesystem::path& path, int attempt)
     return name;
 }
 
+bool IsKeptCopy(const std::filesystem::path& file, const std::filesystem::path& path)
+{
+    std::error_code ignored;
+    for (int attempt = 0; attempt < MostKeptNames; ++attempt) {
+        if (std::filesystem::equivalent(file, KeptName(path, attempt), ignored))
+            return true;
+    }
+    return false;
+}
+
 void DropKeptCopies(const std::filesystem::path& path)
 {
     int count = 0;

@@ -14,6 +14,9 @@ namespace skeldon {
 /// it. Fails with nothing left behind.
 [[nodiscard]] std::error_code KeepCopy(const std::filesystem::path& path);
 
+/// Whether `file` is one of the copies that may be kept of `path`.
+[[nodiscard]] bool IsKeptCopy(const std::filesystem::path& file, const std::filesystem::path& path);
+
 /// Removes the copies that are kept of `path`: that of this save and those of saves that failed
 /// before it. From the last name down, so that an interruption leaves no gap between the names.
 void DropKeptCopies(const std::filesystem::path& path);

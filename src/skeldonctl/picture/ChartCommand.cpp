@@ -85,8 +85,9 @@ ExitStatus Save(const QImage& picture, const std::filesystem::path& path)
 
 ExitStatus Run(const ChartCommand& command)
 {
-    if (IsSameFile(command.file, command.output))
-        return FailOn(command.output, "is the input itself");
+    if (const ExitStatus checked = CheckInputStays(command.file, command.output);
+        checked != ExitStatus::Done)
+        return checked;
     CMeasureData data;
     if (const ExitStatus loaded = LoadDataFile(command.file, data); loaded != ExitStatus::Done)
         return loaded;

@@ -31,6 +31,9 @@ public:
     virtual void SwitchView(ViewIndex view) = 0;
     /// Whether the data view's stored placement was applied.
     [[nodiscard]] virtual bool IsPlacementRestored() const = 0;
+    /// Whether the window is on its way to a view's place: the sizes that it has meanwhile are not
+    /// the user's.
+    [[nodiscard]] virtual bool IsPlacing() const { return false; }
     /// Whether the window system's own close button works.
     virtual void EnableSystemClose(bool enabled) = 0;
     [[nodiscard]] virtual bool IsSystemCloseEnabled() const = 0;

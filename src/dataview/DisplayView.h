@@ -88,6 +88,7 @@ private:
     void MakeButtons();
     void SetUpButtons();
     void LayOut();
+    void HoldBorder();
     void MoveSplitter(int border);
     [[nodiscard]] CDataViewLayout Layout() const;
     void ReadSettings();
@@ -155,6 +156,7 @@ private:
     QString m_strStartFile;
     QString m_strUnsaved;
     int m_listBorder = CDataViewLayout::DefaultListBorder;
+    bool m_isBorderRead = false; ///< and not yet held to the window
     bool m_isPointerOnBar = false;
     bool m_bDragging = false;
     int m_nDragOffset = 0;

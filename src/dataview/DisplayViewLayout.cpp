@@ -19,6 +19,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace skeldon {
 
@@ -91,9 +92,11 @@ void CDisplayView::ReadGeneralSettings()
 
 void CDisplayView::ReadSettings()
 {
-    // Whatever the store holds, list, chart and splitter can be reached.
-    m_listBorder = Layout().ClampListBorder(App().Settings().GetInt(
-        SystemSection, KeyOf(ListBorderKey), CDataViewLayout::DefaultListBorder));
+    // Numbers that no window has room for can not be counted with.
+    m_listBorder = std::clamp(App().Settings().GetInt(SystemSection, KeyOf(ListBorderKey),
+                                                      CDataViewLayout::DefaultListBorder),
+                              CDataViewLayout::HighestListBorder, QWIDGETSIZE_MAX);
+    m_isBorderRead = true;
     m_list->Setup(m_data);
     m_chart->Create(m_data);
     SetUpButtons();
@@ -138,13 +141,23 @@ void CDisplayView::resizeEvent(QResizeEvent* event)
     LayOut();
 }
 
+void CDisplayView::HoldBorder()
+{
+    // A border of a large window would be lost in the sizes on the way to it.
+    const CFrame& frame = *App().Frame();
+    if (frame.IsPlacing())
+        return;
+    // Whatever the store holds, list, chart and splitter can be reached.
+    if (std::exchange(m_isBorderRead, false) || frame.IsPlacementRestored())
+        m_listBorder = Layout().ClampListBorder(m_listBorder);
+}
+
 void CDisplayView::LayOut()
 {
     if (!m_bLayoutDone)
         return;
     const CDataViewLayout layout = Layout();
-    if (App().Frame()->IsPlacementRestored())
-        m_listBorder = layout.ClampListBorder(m_listBorder);
+    HoldBorder();
     m_list->setGeometry(layout.List(m_listBorder));
     m_chart->setGeometry(layout.Chart(m_listBorder));
     m_splitter->setGeometry(layout.Splitter(m_listBorder));

@@ -39,6 +39,7 @@ public:
     [[nodiscard]] ViewIndex CurrentView() const override { return m_nCurrentView; }
     void SwitchView(ViewIndex view) override;
     [[nodiscard]] bool IsPlacementRestored() const override { return m_bPlacementRestored; }
+    [[nodiscard]] bool IsPlacing() const override;
     void EnableSystemClose(bool enabled) override { m_closeEnabled = enabled; }
     [[nodiscard]] bool IsSystemCloseEnabled() const override { return m_closeEnabled; }
     void CloseFrame() override;
@@ -63,6 +64,7 @@ public:
 protected:
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     static constexpr int PaneCount = 3;
@@ -81,7 +83,9 @@ private:
 
     // Placement.
     [[nodiscard]] WindowPlacement CurrentPlacement() const;
+    void ShowView(ViewIndex view);
     void RestorePlacement();
+    [[nodiscard]] bool IsGrowing() const;
     void SavePlacement();
     void SavePlacementAs(Qt::WindowStates states);
     void FitToView();
@@ -96,7 +100,9 @@ private:
     bool m_hasView = false; ///< a view was switched to
     bool m_bPlacementRestored = false;
     bool m_bFirstSwitch = false;
+    bool m_isSwitching = false;           ///< on the way from one view to the other
     bool m_isRestoring = false;           ///< a stored placement is being applied
+    bool m_isMaximising = false;          ///< asked for, and the window may not be as large yet
     std::optional<QRect> m_maximisedFrom; ///< where a maximised window goes back to
     bool m_closeEnabled = true;
     bool m_isClosing = false;

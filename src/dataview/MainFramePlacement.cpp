@@ -34,6 +34,16 @@ std::vector<QRect> Screens()
 
 void CMainFrame::SwitchView(ViewIndex view)
 {
+    m_isSwitching = true;
+    ShowView(view);
+    m_isSwitching = false;
+    m_document.UpdateAllViews(DocumentHint::ActiveView, static_cast<int>(view));
+    ViewOf(view).update();
+    ViewOf(view).setFocus();
+}
+
+void CMainFrame::ShowView(ViewIndex view)
+{
     QPoint corner;
     if (m_bStarted) {
         SavePlacement();
@@ -55,9 +65,17 @@ void CMainFrame::SwitchView(ViewIndex view)
         WritePlacement(App().Settings(), view, next);
     }
     RestorePlacement();
-    m_document.UpdateAllViews(DocumentHint::ActiveView, static_cast<int>(view));
-    ViewOf(view).update();
-    ViewOf(view).setFocus();
+}
+
+bool CMainFrame::IsPlacing() const
+{
+    return m_isSwitching || IsGrowing();
+}
+
+/// The window system maximises a window when it likes.
+bool CMainFrame::IsGrowing() const
+{
+    return m_isMaximising && m_maximisedFrom && size() == m_maximisedFrom->size();
 }
 
 void CMainFrame::FitToView()
@@ -104,6 +122,7 @@ WindowPlacement CMainFrame::CurrentPlacement() const
 void CMainFrame::RestorePlacement()
 {
     m_bPlacementRestored = false;
+    m_isMaximising = false;
     FitToView();
     if (IsCtrlDown())
         return;
@@ -130,6 +149,7 @@ void CMainFrame::RestorePlacement()
     // The place that the window has now is the one that it goes back to.
     if (isMaximised) {
         m_maximisedFrom = QRect(pos(), size());
+        m_isMaximising = true;
         setWindowState(windowState() | Qt::WindowMaximized);
     }
     m_isRestoring = false;
@@ -167,13 +187,21 @@ void CMainFrame::SavePlacementAs(Qt::WindowStates states)
     WritePlacement(App().Settings(), m_nCurrentView, placement);
 }
 
+void CMainFrame::resizeEvent(QResizeEvent* event)
+{
+    QMainWindow::resizeEvent(event);
+    m_isMaximising = IsGrowing();
+}
+
 void CMainFrame::changeEvent(QEvent* event)
 {
     QMainWindow::changeEvent(event);
     if (event->type() != QEvent::WindowStateChange || !m_bStarted || m_isRestoring)
         return;
-    if (!isMaximized() && !isMinimized())
+    if (!isMaximized() && !isMinimized()) {
         m_maximisedFrom.reset();
+        m_isMaximising = false;
+    }
     // Before the icon or the whole screen takes its place, the window's own place is kept.
     const Qt::WindowStates before = static_cast<QWindowStateChangeEvent*>(event)->oldState();
     // The setup view's one size leaves nothing to maximise: where a window system does so all the

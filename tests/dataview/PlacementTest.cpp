@@ -1,5 +1,6 @@
 #include "FrameApp.h"
 
+#include "dataview/MeasuredList.h"
 #include "dataview/WindowPlacement.h"
 
 #include <QMenuBar>
@@ -9,6 +10,7 @@
 #include <QTest>
 
 #include <array>
+#include <limits>
 
 using namespace skeldon;
 using namespace skeldon::test;
@@ -269,6 +271,65 @@ private slots:
         QTRY_VERIFY(app.Frame().isMaximized());
         app.Frame().showNormal();
         QTRY_COMPARE(PlaceOf(app.Frame()), Wanted);
+    }
+
+    void BorderOfALargeWindowSurvivesTheWayToIt_data()
+    {
+        QTest::addColumn<QString>("word");
+        QTest::addColumn<int>("showCommand");
+        for (const char* const word : {"-display", "-setup"}) {
+            QTest::addRow("%s", word) << QString::fromLatin1(word) << 1;
+            QTest::addRow("%s maximised", word) << QString::fromLatin1(word) << 3;
+        }
+    }
+
+    void BorderOfALargeWindowSurvivesTheWayToIt()
+    {
+        QFETCH(const QString, word);
+        QFETCH(const int, showCommand);
+        constexpr int Border = 450;
+        CFrameApp app;
+        app.Settings().WriteInt(SystemSection, QStringLiteral("ListBorder"), Border);
+        const QRect place = showCommand == 1 ? QRect(10, 10, 720, 770) : Wanted;
+        Store(app.SettingsFile(), DisplaySection, place, showCommand);
+        QVERIFY(app.Start({word}));
+        if (app.Frame().CurrentView() == ViewIndex::Setup)
+            app.Frame().SwitchView(ViewIndex::Display);
+        QTRY_VERIFY(app.Frame().height() > 750);
+        QVERIFY(!app.Frame().IsPlacing());
+        QCOMPARE(app.View().List().geometry().bottom() + 1, Border);
+        // Only the window's own size holds it.
+        app.Frame().showNormal();
+        app.Frame().resize(720, 600);
+        QTRY_COMPARE(app.View().List().geometry().bottom() + 1, app.View().height() - 234);
+    }
+
+    void BorderThatNoWindowHoldsIsBroughtInOnTheWay_data()
+    {
+        QTest::addColumn<int>("border");
+        QTest::addColumn<bool>("isCtrlHeld");
+        for (const bool isHeld : {false, true}) {
+            const char* const ctrl = isHeld ? " with Ctrl" : "";
+            QTest::addRow("largest%s", ctrl) << std::numeric_limits<int>::max() << isHeld;
+            QTest::addRow("smallest%s", ctrl) << std::numeric_limits<int>::min() << isHeld;
+        }
+    }
+
+    void BorderThatNoWindowHoldsIsBroughtInOnTheWay()
+    {
+        QFETCH(const int, border);
+        QFETCH(const bool, isCtrlHeld);
+        if (isCtrlHeld)
+            qputenv(CtrlVariable, "1");
+        for (const char* const word : {"-display", "-setup"}) {
+            CFrameApp app;
+            app.Settings().WriteInt(SystemSection, QStringLiteral("ListBorder"), border);
+            QVERIFY(app.Start({QLatin1String(word)}));
+            if (app.Frame().CurrentView() == ViewIndex::Setup)
+                app.Frame().SwitchView(ViewIndex::Display);
+            QCOMPARE(app.View().List().geometry().bottom() + 1,
+                     border > 0 ? app.View().height() - 234 : 96);
+        }
     }
 
     void CtrlAtStartSetsThePlacementAside()

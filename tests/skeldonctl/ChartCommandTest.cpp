@@ -212,6 +212,14 @@ TEST_F(ChartCommandTest, TellsPathAndReasonWhereAFileCanNotBeReadOrWritten)
     EXPECT_FALSE(std::filesystem::exists(m_folder.Path("a.png")));
 }
 
+TEST_F(ChartCommandTest, ReasonsAreEnglishWhateverTheUsersLanguage)
+{
+    const std::string nowhere = m_folder.Path("no folder/a.png").string();
+    const Outcome outcome =
+        Tool({"chart", m_file, "-o", nowhere}, {"LC_ALL=C.UTF-8", "LANGUAGE=de"});
+    EXPECT_NE(outcome.err.find("No such file or directory"), std::string::npos) << outcome.err;
+}
+
 TEST_F(ChartCommandTest, AFullDiskIsAFailureAndADeviceStaysOne)
 {
     const Outcome outcome = Tool({"chart", m_file, "-o", "/dev/full"});

@@ -13,6 +13,7 @@
 #include <QGuiApplication>
 
 #include <algorithm>
+#include <clocale>
 #include <string_view>
 #include <system_error>
 
@@ -97,6 +98,8 @@ ExitStatus Run(const ChartCommand& command)
     char name[] = "skeldonctl";
     char* arguments[] = {name, nullptr};
     const QGuiApplication application(count, arguments);
+    // The toolkit takes over the user's language, in which the system would then give its reasons.
+    std::setlocale(LC_ALL, "C");
     QFont font = QGuiApplication::font();
     font.setPixelSize(LetterSize);
     const QFontMetrics metrics(font);

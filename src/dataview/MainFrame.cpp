@@ -256,8 +256,11 @@ QString CMainFrame::PaneText(int pane) const
 
 void CMainFrame::SetCaption(const QString& text)
 {
+    // The toolkit takes a star in brackets for its own; doubled it stands for itself.
+    const QString star = QStringLiteral("[*]");
+    const QString shown = QString(text).replace(star, star + star);
     const QString product = Text(StringId::AppName);
-    setWindowTitle(text.isEmpty() ? product : product + QStringLiteral(" - ") + text);
+    setWindowTitle(shown.isEmpty() ? product : product + QStringLiteral(" - ") + shown);
 }
 
 bool CMainFrame::IsConnected() const

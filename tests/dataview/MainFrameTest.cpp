@@ -8,6 +8,7 @@
 #include <QSignalSpy>
 #include <QStatusBar>
 #include <QTest>
+#include <QWindow>
 
 using namespace skeldon;
 using namespace skeldon::test;
@@ -56,6 +57,18 @@ private slots:
         QCOMPARE(app.Frame().windowTitle(), QStringLiteral("SKELDON Light - crate.skd"));
         app.Frame().SetCaption({});
         QCOMPARE(app.Frame().windowTitle(), QStringLiteral("SKELDON Light"));
+    }
+
+    void TitleHasTheWholeNameOfTheFile()
+    {
+        CFrameApp app;
+        QVERIFY(app.Start());
+        for (const QString& name : {QStringLiteral("a[*].skd"), QStringLiteral("[*][*]"),
+                                    QStringLiteral("50% [x]*&.skd")}) {
+            app.Frame().SetCaption(name);
+            QCOMPARE(app.Frame().windowHandle()->title(),
+                     QStringLiteral("SKELDON Light - ") + name);
+        }
     }
 
     void TitleFollowsTheDataViewWhileItIsHidden()

@@ -1,6 +1,7 @@
 #include "controls/CableDialog.h"
 #include "controls/LcdPanel.h"
 #include "controls/RecorderPicture.h"
+#include "controls/SkinButton.h"
 #include "setup/view/SetupApp.h"
 
 #include <QPushButton>
@@ -29,6 +30,19 @@ public:
 private:
     int& m_looks;
 };
+
+/// Whether the read-out of the start option shows pixels of that colour.
+bool Shows(CSetupApp& app, const QColor& colour)
+{
+    const QImage image = app.Panel(SetupPanel::StartOption).grab().toImage();
+    for (int y = 18; y < 38; ++y) {
+        for (int x = 8; x < 85; ++x) {
+            if (image.pixelColor(x, y) == colour)
+                return true;
+        }
+    }
+    return false;
+}
 
 /// Has the recorder's next report tell that start option.
 void GiveStartOption(CSetupApp& app, const std::string& option)
@@ -118,8 +132,10 @@ void RecorderCommandsTest::ReceivedConditionsCanBeAdded()
 void RecorderCommandsTest::IllegalStartOptionBlinksAndIsRepaired()
 {
     CSetupApp app;
+    app.m_folder.WriteProfile("crate", "SerialNo=5\r\n");
     app.Show();
     app.Play({"--type", "10"});
+    app.ClickLine(0);
     // More than any recorder should tell: the number has no sign on the wire.
     GiveStartOption(app, "4294967291");
     int reds = 0;
@@ -128,12 +144,7 @@ void RecorderCommandsTest::IllegalStartOptionBlinksAndIsRepaired()
     QTimer look;
     connect(&look, &QTimer::timeout, &look, [&] {
         const CLcdPanel& panel = app.Panel(SetupPanel::StartOption);
-        const QImage image = app.Panel(SetupPanel::StartOption).grab().toImage();
-        bool isRed = false;
-        for (int y = 18; y < 38; ++y) {
-            for (int x = 8; x < 85; ++x)
-                isRed = isRed || image.pixelColor(x, y) == QColor(255, 0, 0);
-        }
+        const bool isRed = Shows(app, QColor(255, 0, 0));
         if (panel.IsBlank() && !wasBlank)
             ++blanks;
         if (isRed && wasBlank)
@@ -156,9 +167,12 @@ void RecorderCommandsTest::IllegalStartOptionBlinksAndIsRepaired()
     QCOMPARE(app.State().m_saved.StartOpt, -5);
     QCOMPARE(app.Panel(SetupPanel::StartOption).Value(), 0);
     QVERIFY(!app.Panel(SetupPanel::StartOption).IsBlank());
+    QVERIFY(Shows(app, QColor(0, 255, 0)));
     QVERIFY(!app.State().m_bEditing);
+    // The repair is a change, which can be stored or taken back.
+    QVERIFY(app.Button(SetupButton::Update).isEnabled());
     app.Command(CommandId::ConditionChange);
-    QVERIFY(app.Can(CommandId::ConditionRestore));
+    QVERIFY(app.Button(SetupButton::Restore).isEnabled());
 }
 
 void RecorderCommandsTest::HighStartOptionIsShownAsItIs()
@@ -208,12 +222,15 @@ void RecorderCommandsTest::DisconnectionBlanksTheRecords()
     QCOMPARE(app.Panel(SetupPanel::Records).Value(), 5);
     app.View().OnUpdate(DocumentHint::Connection, 1);
     QVERIFY(!app.Panel(SetupPanel::Records).IsBlank());
+    QVERIFY(app.Button(SetupButton::Receive).isEnabled());
+    QVERIFY(app.Button(SetupButton::StartPrompt).isEnabled());
     app.m_frame.m_connected = false;
     app.View().OnUpdate(DocumentHint::Connection, 0);
     QVERIFY(app.Panel(SetupPanel::Records).IsBlank());
     QVERIFY(!app.Panel(SetupPanel::Id).IsBlank());
     QVERIFY(!app.Form().m_picture->IsConnected());
-    QVERIFY(!app.Can(CommandId::Receive));
+    QVERIFY(!app.Button(SetupButton::Receive).isEnabled());
+    QVERIFY(!app.Button(SetupButton::StartPrompt).isEnabled());
 }
 
 void RecorderCommandsTest::RangeChangesToTheOther_data()

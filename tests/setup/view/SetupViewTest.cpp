@@ -68,6 +68,7 @@ private slots:
     void SelectedLineIsSeenInAnInactiveWindow();
     void SelectedLineCanBeTakenAgain();
     void EditModeShowsArrowsInYellow();
+    void EditModeEndsInGreenHoweverItEnds();
     void EditingWithNothingLoadedMakesConditions();
     void ArrowsStepOnlyInEditMode();
     void StepsHaveTheirHints();
@@ -288,6 +289,26 @@ void SetupViewTest::EditModeShowsArrowsInYellow()
     QCOMPARE(CountShownSpins(app), 0);
     for (const SetupPanel panel : Conditions)
         QVERIFY(Shows(app, panel, QColor(0, 255, 0)));
+}
+
+void SetupViewTest::EditModeEndsInGreenHoweverItEnds()
+{
+    CSetupApp app;
+    app.m_folder.WriteProfile("crate", "SerialNo=5\r\nThreshold=88\r\n");
+    app.Show();
+    app.View().m_wizard = [](CMeasureCondition&, const CProfileStore&, QWidget*) { return true; };
+    const auto isLeft = [&app] {
+        return !app.Button(SetupButton::Change).IsPressed() && CountShownSpins(app) == 0 &&
+               Shows(app, SetupPanel::Threshold, QColor(0, 255, 0)) &&
+               !Shows(app, SetupPanel::Threshold, QColor(255, 255, 0));
+    };
+    app.Click(SetupButton::Change);
+    app.ClickLine(0);
+    QVERIFY(isLeft());
+    app.Click(SetupButton::Change);
+    QVERIFY(!isLeft());
+    app.Click(SetupButton::Wizard);
+    QVERIFY(isLeft());
 }
 
 void SetupViewTest::EditingWithNothingLoadedMakesConditions()

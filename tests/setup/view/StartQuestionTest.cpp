@@ -1,6 +1,7 @@
 #include "setup/view/StartQuestion.h"
 #include "base/CalendarTime.h"
 #include "recorder/RecorderStatus.h"
+#include "resources/StringTable.h"
 
 #include <QTest>
 
@@ -28,6 +29,7 @@ private slots:
     void StartOptionIsToldWhereItCounts();
     void AnswerDecidesOverTheData_data();
     void AnswerDecidesOverTheData();
+    void QuestionsLeaveRoomForAWord();
     void FittingAsksAndTells_data();
     void FittingAsksAndTells();
     void ReservationBeginsWithItsMinute();
@@ -112,6 +114,13 @@ void StartQuestionTest::AnswerDecidesOverTheData()
     const std::optional<bool> clearing = ClearingOf(answer, kind);
     const int given = clearing ? int{*clearing} : -1;
     QTEST(given, "clearing");
+}
+
+void StartQuestionTest::QuestionsLeaveRoomForAWord()
+{
+    for (const StringId question :
+         {StringId::AskStart, StringId::AskStartAfterClearing, StringId::AskStartAndClear})
+        QVERIFY(Text(question).startsWith(QStringLiteral("Start %smeasuring")));
 }
 
 void StartQuestionTest::FittingAsksAndTells_data()

@@ -1,5 +1,6 @@
 #include "controls/CableDialog.h"
 #include "controls/LcdPanel.h"
+#include "controls/SkinButton.h"
 #include "setup/view/ReservedStartDialog.h"
 #include "setup/view/SetupApp.h"
 
@@ -28,6 +29,7 @@ class StartTroubleTest : public QObject
 private slots:
     void FittedValuesAreShownAndSent();
     void RefusedFittingKeepsWhatWasFitted();
+    void FittedValueCanBeRestored();
     void TellingChecksStopNothing();
     void HazardBeyondASmallRecorderCanBeCancelled();
     void ReservationIsFittedBeforeItsTimeIsAsked();
@@ -95,6 +97,23 @@ void StartTroubleTest::RefusedFittingKeepsWhatWasFitted()
     QCOMPARE(app.State().m_current.GetSampling(), 4);
     QCOMPARE(app.Panel(SetupPanel::Sampling).Value(), 312);
     QCOMPARE(app.State().m_current.Threshold, 104);
+}
+
+void StartTroubleTest::FittedValueCanBeRestored()
+{
+    CSetupApp app;
+    app.Show();
+    CMeasureCondition condition;
+    condition.SetSampling(0);
+    app.Load(condition);
+    app.Play({"--type", "10"});
+    app.Click(SetupButton::Change);
+    app.m_prompts->m_answers = {Answer::Yes, Answer::No};
+    app.Click(SetupButton::StartPrompt);
+    QCOMPARE(app.Panel(SetupPanel::Sampling).Value(), 312);
+    QVERIFY(app.Button(SetupButton::Restore).isEnabled());
+    app.Click(SetupButton::Restore);
+    QCOMPARE(app.Panel(SetupPanel::Sampling).Value(), 5000);
 }
 
 void StartTroubleTest::TellingChecksStopNothing()

@@ -18,6 +18,24 @@
 
 namespace skeldon {
 
+namespace {
+
+/// What an analysis of `data` must know. Lines of a file need nothing of the recorder, which may
+/// just be asked and not answer.
+AnalysisSetting SettingFor(const CMeasureData& data)
+{
+    AnalysisSetting setting;
+    setting.now = Now();
+    if (!data.m_fromFile) {
+        const CRecorderLink& link = App().Link();
+        setting.startMonth = link.m_month;
+        setting.startDay = link.m_day;
+    }
+    return setting;
+}
+
+} // namespace
+
 CDisplayView::CDisplayView(QWidget* parent)
     : CView(parent)
     , m_strUnsaved(Text(StringId::Unsaved))
@@ -222,8 +240,7 @@ void CDisplayView::ClearData()
 void CDisplayView::AnalyseAndReport(bool repairYear)
 {
     const CWaitCursor wait;
-    const CRecorderLink& link = App().Link();
-    m_data.Analyse({link.m_month, link.m_day, Now()});
+    m_data.Analyse(SettingFor(m_data));
     if (repairYear)
         m_data.RepairYear();
     ShowSummary(SummaryOf(m_data));

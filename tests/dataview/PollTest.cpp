@@ -3,6 +3,7 @@
 #include "app/PumpMessages.h"
 #include "app/platform/SharedBlock.h"
 #include "controls/ConnectionIcon.h"
+#include "dataview/MeasuredList.h"
 #include "recorder/RecorderStatus.h"
 #include "support/window/PaintCounter.h"
 
@@ -186,6 +187,20 @@ private slots:
         // All that happened in the same conversation.
         QVERIFY(app.m_app->Conversation().IsUnderWay());
         QVERIFY(!app.Frame().IsConnected());
+    }
+
+    void FileIsOpenedWhileARecorderDoesNotAnswer()
+    {
+        CFrameApp app;
+        QVERIFY(app.Start());
+        app.m_prompts->m_paths = {app.WriteLines(QStringLiteral("crate.skd"), 3)};
+        app.PlugIn(Deaf());
+        app.Frame().Poll().Tick();
+        app.View().OnCommand(CommandId::Open);
+        QCOMPARE(app.View().Data().GetSize(), std::size_t{3});
+        QCOMPARE(app.View().List().model()->rowCount(), 3);
+        // Nobody waited for the recorder.
+        QVERIFY(app.m_app->Conversation().IsUnderWay());
     }
 
     void EndDoesNotWaitForARecorderThatDoesNotAnswer()

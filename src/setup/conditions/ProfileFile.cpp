@@ -1,5 +1,6 @@
 #include "setup/conditions/ProfileFile.h"
 
+#include "base/TextScan.h"
 #include "setup/conditions/IniFile.h"
 #include "setup/conditions/platform/WholeFile.h"
 #include "setup/tables/IntervalTable.h"
@@ -66,6 +67,13 @@ std::string TitleOf(const fs::path& path)
 {
     const std::string name = path.filename().string();
     return name.substr(0, name.rfind('.'));
+}
+
+/// Whether the two differ in the letter case of their extensions at most.
+bool IsSameProfile(const fs::path& a, const fs::path& b)
+{
+    return a.parent_path() == b.parent_path() && a.stem() == b.stem() &&
+           EqualNoCase(a.extension().native(), b.extension().native());
 }
 
 /// Whether `name` can be the title of a file, in the folder that it is put into.
@@ -154,7 +162,10 @@ std::error_code SaveProfile(CMeasureCondition& condition, const fs::path& folder
         return std::make_error_code(std::errc::invalid_argument);
     if (folder.empty())
         return std::make_error_code(std::errc::no_such_file_or_directory);
-    condition.FilePath = folder / (condition.ProfileName + std::string(Extension));
+    const fs::path path = folder / (condition.ProfileName + std::string(Extension));
+    // "ROAD.SKP" is the file of that profile too, and a second one would go under its name.
+    if (!IsSameProfile(condition.FilePath, path))
+        condition.FilePath = path;
     std::string text;
     if (const std::error_code error = ReadExisting(condition.FilePath, text))
         return error;

@@ -28,9 +28,10 @@ void ReadProfileText(std::string text, CMeasureCondition& condition);
 [[nodiscard]] std::error_code LoadProfile(const std::filesystem::path& path,
                                           CMeasureCondition& condition);
 
-/// Writes the profile of that name in `folder` and keeps the path in `FilePath`. A host number
-/// above 99 and a name that is empty or no file's name fail with `invalid_argument`, and nothing is
-/// written then; no other value is checked. On any failure the file holds what it held.
+/// Writes the profile of that name in `folder` and keeps the path in `FilePath`; where that leads
+/// to the profile already, its extension in capitals perhaps, it stays. A host number above 99 and
+/// a name that is empty or no file's name fail with `invalid_argument`, and nothing is written
+/// then; no other value is checked. On any failure the file holds what it held.
 [[nodiscard]] std::error_code SaveProfile(CMeasureCondition& condition,
                                           const std::filesystem::path& folder);
 

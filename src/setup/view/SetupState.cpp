@@ -135,11 +135,13 @@ std::error_code CSetupState::Update()
 {
     CMeasureCondition copy = m_current;
     // A name typed in another letter case means the file that is there.
-    const std::string stored = m_store.GetAt(m_nStoreIndex).ProfileName;
-    const bool isStored = IsSameName(m_strName, NameText(stored));
+    const CProfile stored = m_store.GetAt(m_nStoreIndex);
+    const bool isStored = IsSameName(m_strName, NameText(stored.ProfileName));
     if (!isStored && !IsFileName(m_strName))
         return std::make_error_code(std::errc::invalid_argument);
-    copy.ProfileName = isStored ? stored : NameBytes(m_strName);
+    copy.ProfileName = isStored ? stored.ProfileName : NameBytes(m_strName);
+    if (isStored)
+        copy.FilePath = stored.FilePath;
     if (const std::error_code error = copy.Save())
         return error;
     m_current = copy;

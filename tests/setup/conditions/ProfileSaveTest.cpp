@@ -52,6 +52,28 @@ TEST(SaveProfile, NamesTheFileAfterTheProfile)
     EXPECT_EQ(read.Threshold, 77);
 }
 
+TEST(SaveProfile, WritesTheFileThatWasReadWhateverTheCaseOfItsExtension)
+{
+    const CTemporaryFolder folder;
+    WriteText(folder / "A.SKP", "[Own]\nB=2\n");
+    CMeasureCondition condition;
+    ASSERT_FALSE(LoadProfile(folder / "A.SKP", condition));
+    condition.Threshold = 7;
+    ASSERT_FALSE(SaveProfile(condition, folder.Path()));
+    EXPECT_EQ(condition.FilePath, folder / "A.SKP");
+    EXPECT_EQ(ThresholdOf(folder / "A.SKP"), 7);
+    EXPECT_TRUE(ReadText(folder / "A.SKP").starts_with("[Own]\nB=2\n"));
+    EXPECT_EQ(folder.Names().size(), 1U);
+    // Another name, or another folder, is another profile.
+    condition.ProfileName = "a";
+    ASSERT_FALSE(SaveProfile(condition, folder.Path()));
+    EXPECT_EQ(condition.FilePath, folder / "a.skp");
+    fs::create_directories(folder / "in");
+    ASSERT_FALSE(LoadProfile(folder / "A.SKP", condition));
+    ASSERT_FALSE(SaveProfile(condition, folder / "in"));
+    EXPECT_EQ(condition.FilePath, folder / "in/A.skp");
+}
+
 TEST(SaveProfile, RefusesAHostNumberAbove99AndAnEmptyName)
 {
     const CTemporaryFolder folder;

@@ -60,6 +60,7 @@ class ProfilesOnDiskTest : public QObject
 private slots:
     void ForeignNamesKeepTheirBytes();
     void NamesInTwoLetterCasesBlockEachOther();
+    void ExtensionInCapitalsIsNoSecondFile();
     void DuplicateNumbersAreListedAndBlockUpdate();
     void ForeignFilesAreNotListed();
     void MissingFolderIsAnEmptyList();
@@ -105,6 +106,31 @@ void ProfilesOnDiskTest::NamesInTwoLetterCasesBlockEachOther()
     state.Choose("01 crate");
     state.m_current.Hazard = 10;
     QVERIFY(state.CanUpdate());
+}
+
+void ProfilesOnDiskTest::ExtensionInCapitalsIsNoSecondFile()
+{
+    CCrateShown state;
+    const std::filesystem::path profiles = state.m_folder.Profiles();
+    // As a memory stick may have it.
+    std::filesystem::rename(profiles / "crate.skp", profiles / "crate.SKP");
+    state.SetListMode(ListMode::Profiles);
+    state.Choose("01 crate");
+    state.m_current.Hazard = 10;
+    QVERIFY(!state.Update());
+    QCOMPARE(state.m_folder.Files(), QStringList("crate.SKP"));
+    // What was received came from no file.
+    state.TakeReceived({});
+    state.m_current.Hazard = 20;
+    QVERIFY(state.CanUpdate());
+    QVERIFY(!state.Update());
+    QCOMPARE(state.m_folder.Files(), QStringList("crate.SKP"));
+    state.SetListMode(ListMode::Profiles);
+    state.Choose("00 crate");
+    QCOMPARE(state.m_current.Hazard, 20);
+    QVERIFY(!state.Delete());
+    QVERIFY(state.m_folder.Files().isEmpty());
+    QCOMPARE(state.m_lines.GetCount(), 0);
 }
 
 void ProfilesOnDiskTest::DuplicateNumbersAreListedAndBlockUpdate()

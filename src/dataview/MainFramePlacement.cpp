@@ -161,8 +161,8 @@ void CMainFrame::Place(const QRect& wanted)
     const QRect rect = OnScreens({wanted.topLeft(), size}, Screens());
     move(rect.topLeft());
     resize(rect.size());
-    // How wide the frame will be is not known before the window has been seen, nor while a maximised
-    // one goes back: the window system is told that the corner is the frame's.
+    // How wide the frame will be is not known before the window has been seen, nor while a
+    // maximised one goes back: the window system is told that the corner is the frame's.
     if (QWindow* const window = windowHandle()) {
         window->resize(rect.size());
         window->setFramePosition(rect.topLeft());

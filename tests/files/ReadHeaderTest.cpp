@@ -107,9 +107,16 @@ TEST(ReadFile, LeavesUnknownWhatTheConfigurationDoesNotSay)
 {
     CMeasureData data = DataOfText(NewFile("<threshold>1</threshold>\n<hazard>2</hazard>\n"
                                            "<endless>\n<temp_nothing>\n<type_num>3</type_num>\n"
-                                           "<date_version>1</date_version>\n",
+                                           "<date_version>1</date_version>\n"
+                                           "<korva_type>QM70</korva_type>\n"
+                                           "<korva_rls>1.23</korva_rls>\n"
+                                           "<extract>16,1.0,1,2.0,0,</extract>\n",
                                            Record("1", "<h>4</h>\n")));
+    ASSERT_EQ(data.m_extract.size(), 1U);
     ASSERT_TRUE(ReadDataText(data, NewFile("")));
+    EXPECT_EQ(data.m_modelName, "");
+    EXPECT_EQ(data.m_release, "");
+    EXPECT_TRUE(data.m_extract.empty());
     EXPECT_EQ(data.m_threshold, -1);
     EXPECT_EQ(data.m_hazard, -1);
     EXPECT_FALSE(data.m_endless);

@@ -128,6 +128,20 @@ TEST_F(Download, KeepsWhatCameBeforeFifteenSecondsOfSilence)
     EXPECT_EQ(m_recorder.Events().back(), "close");
 }
 
+TEST_F(Download, FlagsAllLinesBehindAnAbnormalOneUntilTheNextDownload)
+{
+    m_recorder.On("p", Report("4 100"));
+    m_recorder.On("D", Line + "52AD\r\n" + Lines(2) + "#");
+    ASSERT_EQ(Run(), 4);
+    EXPECT_EQ(m_data.GetRecord(0).m_flags, 0);
+    for (std::size_t i = 1; i < 4; ++i)
+        EXPECT_EQ(m_data.GetRecord(i).m_flags, RecordFlag::Abnormal) << i;
+    m_recorder.On("D", Lines(4) + "#");
+    ASSERT_EQ(Run(), 4);
+    for (std::size_t i = 0; i < 4; ++i)
+        EXPECT_EQ(m_data.GetRecord(i).m_flags, 0) << i;
+}
+
 TEST_F(Download, CountsSilenceAndNotTheWholeTime)
 {
     m_recorder.On("p", Report("4 100"));
@@ -185,9 +199,11 @@ TEST_F(Download, ReportsWhatStandsBehindTheClosingMarkWithTheDrain)
 
 TEST_F(Download, EndsWithTheBufferOfTheAnnouncedLines)
 {
-    // Two lines of 20 bytes and 30 bytes to spare: what is stored ends in the fourth line.
+    // Two lines of 20 bytes and 30 bytes to spare: what is stored ends in the fourth line, whose
+    // next digit would show in Y.
+    const std::string lines = Lines(3) + "52ADB7A001F2031900\r\n" + Lines(96);
     m_recorder.On("p", Report("2 100"));
-    m_recorder.On("D", Lines(100));
+    m_recorder.On("D", lines);
     ASSERT_EQ(m_link.StartDownload(), 2);
     CMeasureRecord record;
     for (int i = 0; i < 3; ++i) {

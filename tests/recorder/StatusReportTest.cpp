@@ -198,6 +198,9 @@ TEST(StatusReport, ReadsTheThresholdByTypeWithUnitAndPointRemoved)
     EXPECT_EQ(ReadKeys("@Type=50\r@detect=1\r").m_threshold, 5);
     EXPECT_EQ(ReadKeys("@Type=10\r@detect=1.0X\r").m_threshold, 0);
     EXPECT_EQ(ReadKeys("@Type=10\r@detect=G.g\r").m_threshold, 0);
+    // A blank is removed at the ends alone, before the unit is.
+    EXPECT_EQ(ReadKeys("@Type=10\r@detect= 1.0G \r").m_threshold, 10);
+    EXPECT_EQ(ReadKeys("@Type=10\r@detect=1.0 G\r").m_threshold, 0);
     // Which of the two keys counts depends on the type.
     EXPECT_EQ(ReadKeys("@Detect=30\r@detect=40\r").m_threshold, 30);
     EXPECT_EQ(ReadKeys("@Type=10\r@Detect=30\r@detect=40\r").m_threshold, 40);

@@ -6,6 +6,7 @@
 
 #include <QMouseEvent>
 #include <QSignalBlocker>
+#include <QTextDocument>
 
 namespace skeldon {
 
@@ -34,7 +35,8 @@ void CProfileList::Show(const CProfileLines& lines, int selected)
     for (const ProfileLine& line : lines.Lines()) {
         auto* const item = new QListWidgetItem(PrintableText(line.text), this);
         item->setData(Qt::UserRole, line.storeIndex);
-        item->setToolTip(item->text());
+        // A name may read as rich text, which the tip would show with all that it asks for.
+        item->setToolTip(Qt::convertFromPlainText(item->text()));
     }
     setCurrentRow(selected);
 }

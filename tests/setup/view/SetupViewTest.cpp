@@ -7,6 +7,7 @@
 
 #include <QLabel>
 #include <QTest>
+#include <QTextDocument>
 
 using namespace skeldon;
 using skeldon::test::CSetupApp;
@@ -65,6 +66,7 @@ private slots:
     void KeysGoThroughTheList();
     void FocusAloneSelectsNothing();
     void SelectionIsNotLost();
+    void TipOfALineIsItsPlainText();
     void SelectedLineIsSeenInAnInactiveWindow();
     void SelectedLineCanBeTakenAgain();
     void EditModeShowsArrowsInYellow();
@@ -232,6 +234,17 @@ void SetupViewTest::SelectionIsNotLost()
                       list.visualItemRect(list.item(0)).center());
     QCOMPARE(list.selectedItems().size(), 1);
     QCOMPARE(app.State().m_nListSel, 0);
+}
+
+void SetupViewTest::TipOfALineIsItsPlainText()
+{
+    CSetupApp app;
+    app.m_folder.WriteProfile("<img src='x.svg'>  & <b>bold<", "SerialNo=5\r\n");
+    app.Show();
+    QTextDocument tip;
+    tip.setHtml(app.Form().m_list->item(0)->toolTip());
+    QCOMPARE(tip.toPlainText(), QStringLiteral("05 <img src='x.svg'>  & <b>bold<"));
+    QCOMPARE(app.Form().m_list->item(0)->text(), tip.toPlainText());
 }
 
 void SetupViewTest::SelectedLineIsSeenInAnInactiveWindow()

@@ -1,5 +1,6 @@
 #include "controls/LcdPanel.h"
 #include "controls/NameEdit.h"
+#include "controls/RecorderPicture.h"
 #include "controls/SkinButton.h"
 #include "controls/SpinButton.h"
 #include "setup/view/ProfileList.h"
@@ -127,12 +128,19 @@ void SetupViewTest::ControlsStandInTheirPlaces()
         }
         for (const SetupPanelForm& form : SetupPanels())
             QCOMPARE(app.Panel(form.panel).pos(), form.place);
-        const QPoint interval = app.Panel(SetupPanel::Interval).pos();
-        QCOMPARE(app.Form().Spin(SetupStep::IntervalUp).geometry(),
-                 QRect(interval + QPoint(85, 18), QSize(11, 9)));
-        QCOMPARE(app.Form().Spin(SetupStep::IntervalDown).pos(), interval + QPoint(85, 29));
-        QCOMPARE(app.Form().Spin(SetupStep::Buzzer).pos(),
-                 app.Panel(SetupPanel::Buzzer).pos() + QPoint(85, 23));
+        const CSetupForm& controls = app.Form();
+        QCOMPARE(controls.m_label->geometry(), QRect(32, 66, 316, 28));
+        QCOMPARE(controls.m_name->geometry(), QRect(32, 102, 212, 22));
+        QCOMPARE(controls.m_list->geometry(), QRect(32, 132, 212, 238));
+        QCOMPARE(controls.m_picture->pos(), QPoint(615, 258));
+        for (const StepRule& rule : StepRules()) {
+            const int down = rule.kind == StepKind::Up ? 18 : rule.kind == StepKind::Down ? 29 : 23;
+            QCOMPARE(controls.Spin(rule.step).geometry(),
+                     QRect(app.Panel(rule.panel).pos() + QPoint(85, down), QSize(11, 9)));
+        }
+        for (const QWidget* const small : std::initializer_list<QWidget*>{
+                 controls.m_name, controls.m_list, &app.Panel(SetupPanel::Id)})
+            QCOMPARE(small->font().pixelSize(), 12);
     }
 }
 

@@ -18,6 +18,16 @@ std::size_t CountForbiddenIn(const QString& text)
         {reinterpret_cast<const char16_t*>(text.utf16()), static_cast<std::size_t>(text.size())});
 }
 
+/// Whether `text` is what remains of `whole` when a stretch of it, or nothing, is cut out.
+bool IsCutOf(const QString& whole, const QString& text)
+{
+    if (text.size() > whole.size())
+        return false;
+    const auto front = std::mismatch(text.begin(), text.end(), whole.begin()).first;
+    const auto back = std::mismatch(text.rbegin(), text.rend(), whole.rbegin()).first;
+    return (front - text.begin()) + (back - text.rbegin()) >= text.size();
+}
+
 void Refuse()
 {
     SetStatusText(Text(StringId::ProfileNameCharacters));
@@ -27,8 +37,8 @@ void Refuse()
 } // namespace
 
 /// Stands behind the key filter and sees every change of the text. Undoes one that would bring in
-/// more forbidden characters than a name of an earlier time may hold already, or make a name longer
-/// that is beyond the limit already.
+/// more forbidden characters than a name of an earlier time may hold already, or anything new into
+/// a name that is beyond the limit.
 class CNameEdit::CGuard : public QValidator
 {
 public:
@@ -36,7 +46,7 @@ public:
 
     State validate(QString& text, int& /*cursor*/) const override
     {
-        if (text.size() > m_longest)
+        if (text.size() > m_limit && !IsCutOf(m_shown, text))
             return Invalid;
         if (CountForbiddenIn(text) <= m_allowed)
             return Acceptable;
@@ -44,36 +54,25 @@ public:
         return Invalid;
     }
 
-    void SetLimit(int characters)
-    {
-        m_limit = characters;
-        m_longest = characters;
-    }
-
     /// Lets the text stand as it is.
     void Allow(const QString& text)
     {
         m_allowed = CountForbiddenIn(text);
-        m_longest = LongestFor(text);
+        m_shown = text;
     }
 
-    /// How long a box must be that shows the text.
-    [[nodiscard]] int LongestFor(const QString& text) const
-    {
-        return std::max(m_limit, static_cast<int>(text.size()));
-    }
+    int m_limit = 0;
 
 private:
-    int m_limit = 0;
-    int m_longest = 0;         ///< characters that the text may have
-    std::size_t m_allowed = 0; ///< forbidden ones that it may hold
+    std::size_t m_allowed = 0;
+    QString m_shown;
 };
 
 CNameEdit::CNameEdit(QWidget* parent)
     : CFilteredEdit(parent)
     , m_guard(new CGuard(this))
 {
-    m_guard->SetLimit(maxLength());
+    m_guard->m_limit = maxLength();
     setValidator(m_guard);
     connect(this, &QLineEdit::textChanged, this,
             [this](const QString& name) { m_guard->Allow(name); });
@@ -81,14 +80,14 @@ CNameEdit::CNameEdit(QWidget* parent)
 
 void CNameEdit::SetLimit(int characters)
 {
-    m_guard->SetLimit(characters);
+    m_guard->m_limit = characters;
     setMaxLength(characters);
 }
 
 void CNameEdit::SetName(const QString& name)
 {
     // Cut short it would be another name. The text of before may be cut, which is a change.
-    const int longest = m_guard->LongestFor(name);
+    const int longest = std::max(m_guard->m_limit, static_cast<int>(name.size()));
     if (maxLength() != longest)
         setMaxLength(longest);
     m_guard->Allow(name);

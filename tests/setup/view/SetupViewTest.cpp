@@ -6,6 +6,7 @@
 #include "setup/view/ProfileList.h"
 #include "setup/view/SetupApp.h"
 
+#include <QClipboard>
 #include <QLabel>
 #include <QTest>
 #include <QTextDocument>
@@ -472,6 +473,14 @@ void SetupViewTest::LongForeignNameCanOnlyBecomeShorter()
         QTest::keyClick(&name, Qt::Key_Backspace);
     QTest::keyClicks(&name, QStringLiteral("xyz"));
     QCOMPARE(app.State().m_strName, QString(40, QLatin1Char('n')));
+    name.setSelection(3, 2);
+    QTest::keyClicks(&name, QStringLiteral("x"));
+    QTest::keyClick(&name, Qt::Key_Delete);
+    QCOMPARE(app.State().m_strName, QString(38, QLatin1Char('n')));
+    QGuiApplication::clipboard()->setText(QString(36, QLatin1Char('y')));
+    name.selectAll();
+    name.paste();
+    QCOMPARE(app.State().m_strName, QString(38, QLatin1Char('n')));
     name.selectAll();
     QTest::keyClick(&name, Qt::Key_Delete);
     QTest::keyClicks(&name, QString(40, QLatin1Char('x')));

@@ -4,6 +4,7 @@
 #include "controls/NameRule.h"
 #include "resources/StringTable.h"
 
+#include <QSet>
 #include <QValidator>
 
 #include <algorithm>
@@ -46,6 +47,8 @@ public:
 
     State validate(QString& text, int& /*cursor*/) const override
     {
+        if (m_passed.contains(text))
+            return Acceptable;
         if (text.size() > m_limit && !IsCutOf(m_shown, text))
             return Invalid;
         if (CountForbiddenIn(text) <= m_allowed)
@@ -59,6 +62,15 @@ public:
     {
         m_allowed = CountForbiddenIn(text);
         m_shown = text;
+        if (m_allowed > 0 || text.size() > m_limit)
+            m_passed.insert(text);
+    }
+
+    /// Begins with another name.
+    void Begin(const QString& name)
+    {
+        m_passed.clear();
+        Allow(name);
     }
 
     int m_limit = 0;
@@ -66,6 +78,7 @@ public:
 private:
     std::size_t m_allowed = 0;
     QString m_shown;
+    QSet<QString> m_passed; ///< stood there before and may come back by an undo
 };
 
 CNameEdit::CNameEdit(QWidget* parent)
@@ -90,7 +103,7 @@ void CNameEdit::SetName(const QString& name)
     const int longest = std::max(m_guard->m_limit, static_cast<int>(name.size()));
     if (maxLength() != longest)
         setMaxLength(longest);
-    m_guard->Allow(name);
+    m_guard->Begin(name);
     QLineEdit::setText(name);
 }
 

@@ -37,6 +37,7 @@ private slots:
     void DropIsHeldToTheRule();
     void InputMethodIsFiltered();
     void NameOfEarlierTimeStays();
+    void UndoneNameIsHeldToTheRuleAgain();
     void RefusedTextIsNotAnnounced();
 
 private:
@@ -174,6 +175,25 @@ void NameEditTest::NameOfEarlierTimeStays()
     m_edit->SetName(QStringLiteral("plain"));
     Paste(QStringLiteral(".5"));
     QCOMPARE(m_edit->text(), QStringLiteral("plain"));
+}
+
+void NameEditTest::UndoneNameIsHeldToTheRuleAgain()
+{
+    m_edit->SetName(QStringLiteral("v1.2"));
+    m_edit->setCursorPosition(3);
+    QTest::keyClick(m_edit.get(), Qt::Key_Backspace);
+    QCOMPARE(m_edit->text(), QStringLiteral("v12"));
+    QTest::keySequence(m_edit.get(), QKeySequence::Undo);
+    QCOMPARE(m_edit->text(), QStringLiteral("v1.2"));
+    QCOMPARE(m_app->m_prompts->m_beeps, 0);
+    Paste(QStringLiteral(":"));
+    QCOMPARE(m_edit->text(), QStringLiteral("v1.2"));
+    QCOMPARE(m_app->m_prompts->m_beeps, 1);
+    // What another name held does not come back.
+    m_edit->SetName(QStringLiteral("v12"));
+    m_edit->setCursorPosition(2);
+    Paste(QStringLiteral("."));
+    QCOMPARE(m_edit->text(), QStringLiteral("v12"));
 }
 
 void NameEditTest::RefusedTextIsNotAnnounced()

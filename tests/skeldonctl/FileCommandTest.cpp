@@ -117,6 +117,23 @@ TEST_F(FileCommand, RecordsGiveTheSameDoublesBackAndKeysAsText)
     EXPECT_EQ(lines[1][9], std::to_string(((Time + 2) * 1000 + 20 + 1) * 18));
 }
 
+TEST_F(FileCommand, TheYearsOfAFileAreNeverRepaired)
+{
+    std::string text = DataFileText();
+    text.replace(text.find("2026/03/04"), 10, "2099/12/31");
+    text.replace(text.find("2026/03/04"), 10, "2099/01/01");
+    WriteText(m_file, text);
+    const nlohmann::json json = JsonOf(Tool({"info", m_file, "--json", "--records"}));
+    EXPECT_EQ(json.value("yearRepairable", false), true);
+    EXPECT_EQ(json.value("yearRepaired", true), false);
+    EXPECT_EQ(json.value("badTime", false), true);
+    EXPECT_EQ(json.value("firstBreak", -1), 1);
+    EXPECT_EQ(json["lines"][1][8].get<int>(), 0x6000 | 17);
+    const std::string output = m_folder.Path("out.skd").string();
+    EXPECT_EQ(Tool({"convert", m_file, output}).status, 0);
+    EXPECT_NE(ReadText(output).find("2099/01/01"), std::string::npos);
+}
+
 TEST_F(FileCommand, JsonDecodesTextsFromTheDataCodePage)
 {
     std::string text = DataFileText();

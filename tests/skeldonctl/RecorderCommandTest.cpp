@@ -109,6 +109,16 @@ TEST_F(RecorderCommand, AnEmptyRecorderIsNoFailureAndLeavesNoFile)
     const nlohmann::json json = JsonOf(OnPort({"get", "--json"}));
     EXPECT_EQ(json.value("records", -1), 0);
     EXPECT_EQ(json.value("expected", -1), 0);
+    EXPECT_EQ(json.value("typeNumber", -1), 50);
+}
+
+TEST_F(RecorderCommand, ANumberOfLinesBeyondAnIntCountsAsNone)
+{
+    const auto simulator = Simulator({"--lines", "5", "--fault", "count=4294967295"});
+    EXPECT_EQ(JsonOf(OnPort({"status", "--json"})).value("count", 0), -1);
+    const Outcome outcome = OnPort({"get", "--json"});
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(JsonOf(outcome).value("expected", -1), 0);
 }
 
 TEST_F(RecorderCommand, FewerLinesThanAnnouncedAreKeptWithStatusFour)
@@ -163,6 +173,22 @@ TEST_F(RecorderCommand, LinesBehindATurnOfTheYearMoveIntoTheNextByTheReportsDate
     EXPECT_EQ(json.value("badTime", true), false);
     EXPECT_EQ(json.value("firstBreak", 0), 100);
     EXPECT_LT(json["lines"][39][0].get<std::int64_t>(), json["lines"][40][0].get<std::int64_t>());
+}
+
+TEST_F(RecorderCommand, LinesBehindATurnOfTheYearInTheFutureAreRepairedWithoutTheReportsDate)
+{
+    const auto simulator =
+        Simulator({"--alpha", "--lines", "100", "--from", "2099-12-20 12:00:00", "--clock",
+                   "2099-12-20 12:00:00", "--fault", "new-year=40", "--fault", "year-only"});
+    const nlohmann::json json = JsonOf(OnPort({"get", "--json", "--records", "-o", m_data}));
+    ASSERT_EQ(json.value("records", 0), 100);
+    EXPECT_EQ(json.value("yearRepairable", false), true);
+    EXPECT_EQ(json.value("yearRepaired", false), true);
+    EXPECT_EQ(json.value("badTime", true), false);
+    EXPECT_EQ(json.value("firstBreak", 0), 100);
+    EXPECT_EQ(json.value("abnormal", 0), 60);
+    EXPECT_LT(json["lines"][39][0].get<std::int64_t>(), json["lines"][40][0].get<std::int64_t>());
+    EXPECT_EQ(json["lines"][40][8].get<int>(), 0x4000);
 }
 
 TEST_F(RecorderCommand, ASilentRecorderIsNone)

@@ -134,6 +134,23 @@ TEST_F(StartCommandTest, AnEmptyRecorderGetsItsClockSet)
     EXPECT_EQ(Sent(), "mpmi3j^d00k0N07w05z1m(clock)t");
 }
 
+TEST_F(StartCommandTest, ARecorderWithLessThanNoLinesGetsItsClockSet)
+{
+    const auto simulator =
+        TracedSimulator({"--type", "pl20", "--lines", "40", "--fault", "count=4294967295"});
+    EXPECT_EQ(OnPort({"start", WriteProfile("SerialNo=7\r\nSampling=1\r\n")}).status, 0);
+    EXPECT_EQ(Sent(), "mpmi3j^d00k0N07w05z1m(clock)t");
+}
+
+TEST_F(StartCommandTest, ARecorderThatTellsNoLimitIsNeverFull)
+{
+    const auto simulator = TracedSimulator(
+        {"--type", "pl20", "--lines", "40", "--no-buzzer", "--fault", "count=40 0"});
+    EXPECT_EQ(JsonOf(OnPort({"status", "--json"})).value("countLimit", -1), 0);
+    EXPECT_EQ(OnPort({"start", WriteProfile("Sampling=1\r\n")}).status, 0);
+    EXPECT_EQ(Sent(), "mpmpmi3j^d00k0N00w05mt");
+}
+
 TEST_F(StartCommandTest, ARecorderWhoseDataIsKeptKeepsItsClock)
 {
     const auto simulator = TracedSimulator({"--type", "pl20", "--lines", "40", "--no-buzzer"});

@@ -6,8 +6,12 @@ namespace skeldon {
 
 bool IsCtrlDown()
 {
-    return qEnvironmentVariable("SKELDON_CTRL_AT_START") == QLatin1String("1") ||
-           QGuiApplication::queryKeyboardModifiers().testFlag(Qt::ControlModifier);
+    return qEnvironmentVariable("SKELDON_CTRL_AT_START") == QLatin1String("1") || IsCtrlKeyDown();
+}
+
+bool IsCtrlKeyDown()
+{
+    return QGuiApplication::queryKeyboardModifiers().testFlag(Qt::ControlModifier);
 }
 
 } // namespace skeldon

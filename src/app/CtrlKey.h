@@ -7,4 +7,8 @@ namespace skeldon {
 /// aside, for a window that was lost.
 [[nodiscard]] bool IsCtrlDown();
 
+/// The key alone, for what asks it again later: the variable stands for one that is held at the
+/// start.
+[[nodiscard]] bool IsCtrlKeyDown();
+
 } // namespace skeldon

@@ -124,7 +124,7 @@ void CMainFrame::RestorePlacement()
     m_bPlacementRestored = false;
     m_isMaximising = false;
     FitToView();
-    if (IsCtrlDown())
+    if (m_bStarted ? IsCtrlKeyDown() : IsCtrlDown())
         return;
     const bool isSetup = m_nCurrentView == ViewIndex::Setup;
     const WindowPlacement current = CurrentPlacement();

@@ -345,6 +345,21 @@ private slots:
         QVERIFY(!app.Frame().testAttribute(Qt::WA_Moved));
     }
 
+    void CtrlAtStartIsOfTheStartAlone()
+    {
+        qputenv(CtrlVariable, "1");
+        CFrameApp app;
+        Store(app.SettingsFile(), DisplaySection, QRect(5, 5, 700, 540));
+        QVERIFY(app.Start());
+        QCOMPARE(app.Frame().centralWidget()->size(), QSize(674, 492));
+        app.Frame().move(Wanted.topLeft());
+        app.Frame().resize(Wanted.size());
+        app.Frame().SwitchView(ViewIndex::Setup);
+        app.Frame().SwitchView(ViewIndex::Display);
+        QCOMPARE(PlaceOf(app.Frame()), Wanted);
+        QVERIFY(app.Frame().IsPlacementRestored());
+    }
+
     void OtherWordsThanOneAreNoCtrl()
     {
         qputenv(CtrlVariable, "0");

@@ -203,18 +203,11 @@ void CProgressWindow::DrawText(const Face& face)
 {
     if (face.text.isEmpty())
         return;
-    constexpr int Flags = Qt::AlignCenter | Qt::TextSingleLine | Qt::TextDontClip;
-    const QRect area(QPoint(), face.size);
-    const QColor ink = ToColour(face.colour);
     QPainter painter(&m_picture.Image());
     painter.setFont(face.font);
-    // Red and blue stand on dark ground here: a thin rim keeps any colour readable.
-    painter.setPen(Contrast(ink, Qt::white) > Contrast(ink, Qt::black) / 2 ? Qt::white : Qt::black);
-    for (const QPoint by : {QPoint(-1, 0), QPoint(1, 0), QPoint(0, -1), QPoint(0, 1),
-                            QPoint(-1, -1), QPoint(1, -1), QPoint(-1, 1), QPoint(1, 1)})
-        painter.drawText(area.translated(by), Flags, face.text);
-    painter.setPen(ink);
-    painter.drawText(area, Flags, face.text);
+    painter.setPen(ToColour(face.colour));
+    painter.drawText(QRect(QPoint(), face.size),
+                     Qt::AlignCenter | Qt::TextSingleLine | Qt::TextDontClip, face.text);
 }
 
 } // namespace skeldon

@@ -1,4 +1,6 @@
 #include "controls/ProgressWindow.h"
+
+#include "controls/Caption.h"
 #include "controls/Pixels.h"
 #include "resources/StringTable.h"
 #include "resources/Translation.h"
@@ -11,6 +13,7 @@
 #include <QTimer>
 #include <QWindow>
 
+#include <algorithm>
 #include <array>
 #include <functional>
 
@@ -32,6 +35,18 @@ bool IsNear(const QColor& a, const QColor& b)
     return std::abs(a.red() - b.red()) + std::abs(a.green() - b.green()) +
                std::abs(a.blue() - b.blue()) <
            120;
+}
+
+/// Whether a colour is a mixture of two others, as the edge of a letter is.
+bool IsBetween(const QColor& colour, const QColor& one, const QColor& other)
+{
+    constexpr int Rounding = 2;
+    const auto isMixed = [](int value, int a, int b) {
+        return value >= std::min(a, b) - Rounding && value <= std::max(a, b) + Rounding;
+    };
+    return isMixed(colour.red(), one.red(), other.red()) &&
+           isMixed(colour.green(), one.green(), other.green()) &&
+           isMixed(colour.blue(), one.blue(), other.blue());
 }
 
 /// Columns of the strip that look filled, at ratio 1.
@@ -324,11 +339,13 @@ void ProgressWindowTest::TextIsReadableInBothColoursAndLanguages_data()
 {
     QTest::addColumn<bool>("isJapanese");
     QTest::addColumn<ColourRef>("colour");
+    QTest::addColumn<int>("position");
     for (const bool isJapanese : {false, true}) {
-        for (const ColourRef colour : {0xFFFFFFU, 0x0000FFU, 0x800000U}) {
-            const QByteArray name =
-                (isJapanese ? "Japanese " : "English ") + QByteArray::number(colour, 16);
-            QTest::newRow(name.constData()) << isJapanese << colour;
+        for (const ColourRef colour : {0xFFFFFFU, 0x0000FFU}) {
+            for (const int position : {0, 100})
+                QTest::addRow("%s %06x at %d", isJapanese ? "Japanese" : "English", colour,
+                              position)
+                    << isJapanese << colour << position;
         }
     }
 }
@@ -337,8 +354,12 @@ void ProgressWindowTest::TextIsReadableInBothColoursAndLanguages()
 {
     QFETCH(bool, isJapanese);
     QFETCH(ColourRef, colour);
+    QFETCH(int, position);
+    constexpr double LeastContrast = 3.0; // of large or bold letters
+    const QColor ink = ToColour(colour);
     QVERIFY(InstallTranslation(isJapanese));
     CProgressWindow strip(nullptr);
+    strip.SetPosition(position);
     const QImage without = Painted(strip);
     strip.SetTextColor(colour, false);
     strip.SetText(Text(StringId::DoNotSeparate));
@@ -346,15 +367,22 @@ void ProgressWindowTest::TextIsReadableInBothColoursAndLanguages()
     InstallTranslation(false);
     QRect text;
     int inked = 0;
+    double contrast = Contrast(Qt::white, Qt::black);
     for (int y = 0; y < with.height(); ++y) {
         for (int x = 0; x < with.width(); ++x) {
-            if (with.pixel(x, y) == without.pixel(x, y))
+            const QColor ground = without.pixelColor(x, y);
+            const QColor drawn = with.pixelColor(x, y);
+            if (drawn == ground)
                 continue;
             text |= QRect(x, y, 1, 1);
-            inked += IsNear(with.pixelColor(x, y), ToColour(colour)) ? 1 : 0;
+            inked += IsNear(drawn, ink) ? 1 : 0;
+            contrast = std::min(contrast, Contrast(ink, ground));
+            // The gauge shines through around the letters.
+            QVERIFY(IsBetween(drawn, ground, ink));
         }
     }
     QVERIFY(inked > 50);
+    QVERIFY2(contrast >= LeastContrast, qPrintable(QString::number(contrast)));
     QVERIFY(text.left() > ProgressGauge::End);
     QVERIFY(text.right() < 400 - ProgressGauge::End);
     QVERIFY(std::abs(text.center().x() - 200) <= 2);

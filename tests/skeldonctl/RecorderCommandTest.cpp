@@ -1,4 +1,5 @@
 #include "ToolOnRecorder.h"
+#include "base/CalendarTime.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -217,6 +218,35 @@ TEST_F(RecorderCommand, AFileThatCanNotBeWrittenIsAFailureThoughAllLinesCame)
     EXPECT_NE(outcome.err.find("/dev/full"), std::string::npos);
     EXPECT_EQ(JsonOf(outcome).value("records", 0), 10);
     EXPECT_TRUE(std::filesystem::exists(m_csv));
+}
+
+TEST_F(RecorderCommand, AFileThatCanNotBeWrittenIsAFailureWhereLinesAreMissingToo)
+{
+    const auto simulator = Simulator({"--lines", "10", "--fault", "too-few=4"});
+    const Outcome outcome = OnPort({"get", "-o", "/dev/full", "--json"});
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(JsonOf(outcome).value("records", 0), 6);
+}
+
+TEST_F(RecorderCommand, WhatTheAnalysisFoundIsTold)
+{
+    const auto simulator = Simulator({"--lines", "10", "--fault", "break=5"});
+    const Outcome outcome = OnPort({"get"});
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_NE(outcome.err.find("Error in date/time."), std::string::npos) << outcome.err;
+    EXPECT_EQ(outcome.err.find("Error in temperature."), std::string::npos) << outcome.err;
+}
+
+TEST_F(RecorderCommand, OnlineLinesGoByTheReportsDateToo)
+{
+    const auto simulator = Simulator({"--lines", "1", "--from", "2024-12-31 12:00:00"});
+    const nlohmann::json json = JsonOf(OnPort({"online", "--seconds", "1", "--json", "--records"}));
+    ASSERT_EQ(json.value("records", 0), 200);
+    const CalendarFields now = ToLocalFields(Now());
+    const CalendarFields line = ToLocalFields(json["lines"][0][0].get<std::int64_t>());
+    // On the last day of the year itself no line lies before it.
+    const bool isBefore = line.month * 100 + line.day < 1231;
+    EXPECT_EQ(line.year, now.year + (isBefore ? 1 : 0));
 }
 
 TEST_F(RecorderCommand, OnlineRecordsTwoHundredLinesASecond)

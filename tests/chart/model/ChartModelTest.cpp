@@ -1,4 +1,4 @@
-#include "chart/model/ChartModel.h"
+#include "chart/model/ModelInWindow.h"
 
 #include "chart/model/BarWalk.h"
 #include "chart/model/LineWalk.h"
@@ -6,76 +6,8 @@
 #include <algorithm>
 #include <utility>
 
-namespace skeldon {
+namespace skeldon::test {
 namespace {
-
-/// An instant without a fraction of an hour.
-constexpr std::int64_t Start = 1'300'000'000LL / 3600 * 3600;
-
-/// One line a second with `x` as X value and nothing else.
-CMeasureData DataOf(const std::vector<double>& x)
-{
-    CMeasureData data;
-    for (std::size_t i = 0; i < x.size(); ++i) {
-        CMeasureRecord line{CalendarSeconds{0}};
-        line.SetValues(Start + static_cast<std::int64_t>(i), 0, x[i], 0, 0, 0, 0);
-        data.AddRecord(line);
-    }
-    data.Analyse({0, 0, 0});
-    return data;
-}
-
-std::vector<double> Ramp(int count)
-{
-    std::vector<double> x;
-    for (int i = 0; i < count; ++i)
-        x.push_back(i * 0.01);
-    return x;
-}
-
-/// A chart in a window of 600 by 400. The plot runs from column 80 to 452; labels of the time strip
-/// make it 64 rows high, so that 320 are left above it.
-struct Chart
-{
-    CMeasureData data;
-    CChartModel model;
-
-    explicit Chart(CMeasureData shown)
-        : data(std::move(shown))
-    {
-        model.Resize({600, 400, 16, 16, 16, 30, 12});
-        model.Create(data,
-                     [](const std::string& text) { return static_cast<int>(text.size()) * 7; });
-        model.RescaleAndRepaint();
-        model.ResetData();
-        model.m_work = ChartWork::None;
-    }
-    explicit Chart(const std::vector<double>& x)
-        : Chart(DataOf(x))
-    {}
-
-    /// What an operation left to be painted.
-    ChartWork Work() { return std::exchange(model.m_work, ChartWork::None); }
-    /// The window from and to so many seconds behind the first line.
-    [[nodiscard]] std::pair<double, double> Seconds() const
-    {
-        const auto seconds = [](std::int64_t time) {
-            return static_cast<double>(time - Start * 1000) / 1000.0;
-        };
-        return {seconds(model.m_window.m_viewStart), seconds(model.m_window.m_viewEnd)};
-    }
-    [[nodiscard]] int ColumnOf(int line) const
-    {
-        return static_cast<int>(model.m_window.Column(model.m_index.Time(line)));
-    }
-    void ShowOnlyX()
-    {
-        model.SetSeriesShown(0x09F0, false);
-        model.SetSeriesShown(0x0010, true);
-    }
-};
-
-using Seconds = std::pair<double, double>;
 
 TEST(ChartModel, LaysTheWindowOut)
 {
@@ -225,100 +157,6 @@ TEST(ChartModel, TellsRisingTimesByTheFirstChangeInTheWholeDataSet)
     EXPECT_FALSE(rises({1}));
 }
 
-TEST(ChartModel, ZoomsInAndBackInTime)
-{
-    Chart chart(Ramp(101));
-    EXPECT_FALSE(chart.model.CanDisplayAllArea());
-    EXPECT_TRUE(chart.model.ZoomInTime());
-    EXPECT_EQ(chart.Work(), ChartWork::Chart);
-    EXPECT_EQ(chart.Seconds(), Seconds(25.0, 75.0));
-    EXPECT_TRUE(chart.model.m_centerable);
-    EXPECT_TRUE(chart.model.CanDisplayAllArea());
-    EXPECT_TRUE(chart.model.ZoomInTime());
-    EXPECT_EQ(chart.Seconds(), Seconds(37.5, 62.5));
-    EXPECT_EQ(chart.model.m_drawn, (LineSpan{37, 63}));
-    EXPECT_TRUE(chart.model.ZoomBack());
-    EXPECT_TRUE(chart.model.ZoomBack());
-    EXPECT_EQ(chart.Seconds(), Seconds(0.0, 100.0));
-    EXPECT_FALSE(chart.model.ZoomBack());
-}
-
-TEST(ChartModel, WidensANarrowSelectionAndZoomsNoFurther)
-{
-    Chart chart(Ramp(101));
-    for (int i = 0; i < 8; ++i)
-        ASSERT_TRUE(chart.model.ZoomInTime());
-    const double perMs = chart.model.m_window.m_pixelsPerMs;
-    const std::int64_t start = chart.model.m_window.m_viewStart;
-    const int left = static_cast<int>(chart.model.m_window.Column(start + 100));
-    chart.model.ZoomToColumns(left + static_cast<int>(40 * perMs), left);
-    EXPECT_TRUE(chart.model.m_window.m_atMaxZoom);
-    EXPECT_EQ(chart.model.m_window.View().Width(), 100);
-    EXPECT_FALSE(chart.model.ZoomInTime());
-    int windows = 0;
-    while (chart.model.ZoomBack()) {
-        EXPECT_FALSE(chart.model.m_window.m_atMaxZoom);
-        ++windows;
-    }
-    EXPECT_EQ(windows, 9);
-}
-
-TEST(ChartModel, CutsASelectionToTheData)
-{
-    Chart chart(Ramp(101));
-    chart.model.ZoomToColumns(0, 266);
-    EXPECT_EQ(chart.Seconds().first, 0.0);
-    EXPECT_NEAR(chart.Seconds().second, 50.0, 0.01);
-}
-
-TEST(ChartModel, ForgetsEarlierWindowsWhenAllIsShown)
-{
-    Chart chart(Ramp(101));
-    chart.model.ZoomInTime();
-    chart.model.m_centerable = false;
-    chart.model.DisplayAllArea();
-    EXPECT_EQ(chart.Seconds(), Seconds(0.0, 100.0));
-    EXPECT_FALSE(chart.model.CanDisplayAllArea());
-    EXPECT_TRUE(chart.model.m_centerable);
-}
-
-TEST(ChartModel, CentresOnWhatIsDrawn)
-{
-    std::vector<double> x(101, 0.0);
-    x[10] = 40.0;
-    x[50] = 2.0;
-    Chart chart(x);
-    chart.ShowOnlyX();
-    EXPECT_TRUE(chart.model.m_centerable);
-    chart.model.ZoomInTime();
-    chart.model.DisplayInCenter();
-    // Only 0 to 2 lie in the window: 9 * 2 / 320 = 0.05625.
-    EXPECT_EQ(chart.model.Step(), 5);
-    EXPECT_EQ(chart.model.m_scale.m_scrollY, 4524 - 90 - 160);
-    EXPECT_FALSE(chart.model.m_centerable);
-    EXPECT_FALSE(chart.model.CanDisplayInCenter());
-}
-
-TEST(ChartModel, KeepsTheMiddleForTheGaugeAndForCommands)
-{
-    Chart chart(std::vector<double>{-1.0, 1.5, 0.0});
-    chart.ShowOnlyX();
-    chart.model.ResetData();
-    chart.model.ChangeScaleStep(6);
-    const int byCommand = chart.model.m_scale.m_scrollY;
-    // The middle was content row 4342 + 160, so 4478 from the plot's top.
-    EXPECT_EQ(byCommand, 2 * 4478 - 160 + 24);
-    EXPECT_TRUE(chart.model.m_centerable);
-    EXPECT_EQ(chart.model.m_gauge.m_step, 6U);
-    chart.model.ResetData();
-    ASSERT_EQ(chart.model.Step(), 5);
-    // The gauge has taken the step before the chart hears of it.
-    ASSERT_TRUE(chart.model.m_gauge.Release(chart.model.m_gauge.RowOfStep(6) + 12));
-    chart.model.SetScaleStep(6);
-    EXPECT_EQ(chart.model.m_scale.m_scrollY, byCommand);
-    EXPECT_EQ(chart.model.m_gauge.m_previousStep, 6U);
-}
-
 TEST(ChartModel, RefusesCommandsDuringADrag)
 {
     Chart chart(Ramp(101));
@@ -371,105 +209,6 @@ TEST(ChartModel, CanNotBeRedrawnFromWithinARebuild)
     EXPECT_FALSE(couldDuring([&] { chart.model.RescaleAndRepaint(); }));
     EXPECT_FALSE(couldDuring([&] { chart.model.DisplayAllArea(); }));
     EXPECT_TRUE(couldDuring([&] { chart.model.ZoomInTime(); }));
-}
-
-TEST(ChartModel, MovesOnlyTheCursorWhileAllIsShown)
-{
-    Chart chart(Ramp(101));
-    chart.model.FollowLine(70);
-    EXPECT_EQ(chart.Work(), ChartWork::Compose);
-    EXPECT_EQ(chart.model.m_currentLine, 70);
-    EXPECT_EQ(chart.model.m_cursorX, chart.ColumnOf(70));
-    EXPECT_EQ(chart.model.m_followX, chart.ColumnOf(70));
-    EXPECT_EQ(chart.Seconds(), Seconds(0.0, 100.0));
-}
-
-TEST(ChartModel, RecentresOnALineFromTheList)
-{
-    Chart chart(Ramp(101));
-    chart.model.ZoomInTime();
-    (void)chart.Work();
-    chart.model.FollowLine(60);
-    EXPECT_EQ(chart.Work(), ChartWork::Chart);
-    EXPECT_EQ(chart.Seconds(), Seconds(35.0, 85.0));
-    EXPECT_EQ(chart.model.m_cursorX, chart.ColumnOf(60));
-    EXPECT_EQ(chart.model.m_followX, chart.model.m_cursorX);
-    // Where the column stays as it is, so does the window.
-    chart.model.FollowLine(60);
-    EXPECT_EQ(chart.Work(), ChartWork::Compose);
-    chart.model.FollowLine(61);
-    EXPECT_EQ(chart.Work(), ChartWork::Chart);
-    EXPECT_EQ(chart.Seconds(), Seconds(36.0, 86.0));
-    // At the ends it stays in the data.
-    chart.model.FollowLine(2);
-    EXPECT_EQ(chart.Seconds(), Seconds(0.0, 50.0));
-    chart.model.FollowLine(99);
-    EXPECT_EQ(chart.Seconds(), Seconds(50.0, 100.0));
-}
-
-TEST(ChartModel, KeepsTheWindowForALineFromTheMouse)
-{
-    Chart chart(Ramp(101));
-    chart.model.ZoomInTime();
-    chart.model.m_lineFromMouse = true;
-    (void)chart.Work();
-    chart.model.FollowLine(74);
-    EXPECT_EQ(chart.Work(), ChartWork::Compose);
-    EXPECT_EQ(chart.Seconds(), Seconds(25.0, 75.0));
-    EXPECT_EQ(chart.model.m_cursorX, chart.ColumnOf(74));
-    EXPECT_FALSE(chart.model.m_lineFromMouse);
-}
-
-TEST(ChartModel, RecentresOnTheMousesLineOnceTheListSetsIt)
-{
-    Chart chart(Ramp(101));
-    chart.model.ZoomInTime();
-    chart.model.m_lineFromMouse = true;
-    chart.model.FollowLine(60);
-    EXPECT_EQ(chart.Seconds(), Seconds(25.0, 75.0));
-    chart.model.FollowLine(60);
-    EXPECT_EQ(chart.Seconds(), Seconds(35.0, 85.0));
-}
-
-TEST(ChartModel, LosesTheCursorOfASingleLineAtARepaint)
-{
-    // In line form it is left by the stretches, of which there is none.
-    const auto change = [](auto operation) {
-        Chart chart(std::vector<double>{3.0});
-        chart.model.FollowLine(0);
-        EXPECT_EQ(chart.model.m_cursorX, chart.ColumnOf(0));
-        operation(chart.model);
-        return chart.model.m_cursorX;
-    };
-    EXPECT_EQ(change([](CChartModel& model) { model.Repaint(); }), 0);
-    EXPECT_EQ(change([](CChartModel& model) { model.SetLineWeight(2); }), 0);
-    EXPECT_NE(change([](CChartModel& model) { model.SetBarChart(true); }), 0);
-}
-
-TEST(ChartModel, IgnoresLinesThatThereAreNot)
-{
-    Chart chart(Ramp(101));
-    chart.model.FollowLine(5);
-    const int cursor = chart.model.m_cursorX;
-    chart.model.m_lineFromMouse = true;
-    (void)chart.Work();
-    for (const int line : {-1, 101, 5000}) {
-        chart.model.FollowLine(line);
-        EXPECT_EQ(chart.model.m_currentLine, 5);
-        EXPECT_EQ(chart.model.m_cursorX, cursor);
-        EXPECT_TRUE(chart.model.m_lineFromMouse);
-        EXPECT_EQ(chart.Work(), ChartWork::None);
-    }
-}
-
-TEST(ChartModel, ForgetsTheCurrentLineWithItsData)
-{
-    Chart chart(Ramp(101));
-    chart.model.FollowLine(5);
-    chart.model.ResetData();
-    EXPECT_EQ(chart.model.m_currentLine, -1);
-    EXPECT_EQ(chart.model.m_cursorX, 0);
-    EXPECT_EQ(chart.model.m_followX, 0);
 }
 
 TEST(ChartModel, DrawsBarsOfOneTimeAnewForTheCurrentLine)
@@ -547,53 +286,6 @@ TEST(ChartModel, HoldsTheLineWeightWithinOneToFour)
     }
 }
 
-TEST(ChartModel, ScrollsAndTellsThatItCanBeCentred)
-{
-    Chart chart(std::vector<double>{-1.0, 1.5, 0.0});
-    chart.model.m_centerable = false;
-    const int position = chart.model.m_scale.m_scrollY;
-    chart.model.ScrollVertically(ScrollRequest::LineForward, 0, false);
-    EXPECT_EQ(chart.model.m_scale.m_scrollY, position + 16);
-    EXPECT_TRUE(chart.model.m_centerable);
-    EXPECT_EQ(chart.Work(), ChartWork::Chart);
-    chart.model.ScrollVertically(ScrollRequest::Begin, 0, false);
-    (void)chart.Work();
-    chart.model.ScrollVertically(ScrollRequest::LineBack, 0, false);
-    EXPECT_EQ(chart.Work(), ChartWork::None);
-}
-
-TEST(ChartModel, ScrollsTheTimeWindowWithinTheData)
-{
-    Chart chart(Ramp(101));
-    chart.model.ZoomInTime();
-    chart.model.m_centerable = false;
-    chart.model.ScrollHorizontally(ScrollRequest::Thumb, 10'000, false);
-    EXPECT_EQ(chart.Seconds(), Seconds(10.0, 60.0));
-    EXPECT_TRUE(chart.model.m_centerable);
-    chart.model.ScrollHorizontally(ScrollRequest::End, 0, false);
-    EXPECT_EQ(chart.Seconds(), Seconds(50.0, 100.0));
-    EXPECT_EQ(chart.model.HorzScroll(), (ScrollBarState{true, 100'000, 50'000, 50'000}));
-    (void)chart.Work();
-    chart.model.m_centerable = false;
-    chart.model.ScrollHorizontally(ScrollRequest::Thumb, 50'000, false);
-    EXPECT_EQ(chart.Work(), ChartWork::None);
-    EXPECT_FALSE(chart.model.m_centerable);
-    // At the end a request for more changes no window, and yet the view counts as moved.
-    chart.model.ScrollHorizontally(ScrollRequest::LineForward, 0, false);
-    EXPECT_EQ(chart.Seconds(), Seconds(50.0, 100.0));
-    EXPECT_TRUE(chart.model.m_centerable);
-}
-
-TEST(ChartModel, ScrollsNoWindowThatShowsAll)
-{
-    Chart chart(Ramp(101));
-    chart.model.m_centerable = false;
-    (void)chart.Work();
-    chart.model.ScrollHorizontally(ScrollRequest::LineForward, 0, false);
-    EXPECT_EQ(chart.Work(), ChartWork::None);
-    EXPECT_FALSE(chart.model.m_centerable);
-}
-
 TEST(ChartModel, IsClosedForGood)
 {
     Chart chart(Ramp(101));
@@ -640,21 +332,6 @@ TEST(ChartModel, CountsElapsedTicksFromTheFirstLine)
     EXPECT_EQ(chart.model.m_strip.Labels()[1].text.size(), 8U);
 }
 
-TEST(ChartModel, CanBeCentredAfterItsHeightChanged)
-{
-    Chart chart(Ramp(101));
-    EXPECT_FALSE(chart.model.m_centerable);
-    chart.model.Resize({600, 300, 16, 16, 16, 30, 12});
-    EXPECT_TRUE(chart.model.m_centerable);
-    EXPECT_EQ(chart.Work(), ChartWork::Chart);
-    EXPECT_EQ(chart.model.ContentRoom(), 220);
-    chart.model.m_centerable = false;
-    chart.model.Resize({700, 300, 16, 16, 16, 30, 12});
-    EXPECT_FALSE(chart.model.m_centerable);
-    EXPECT_EQ(chart.model.PlotRect().right, 552);
-    EXPECT_EQ(chart.ColumnOf(0), 80 + 1);
-}
-
 TEST(ChartModel, KeepsAPlotInAWindowThatIsTooNarrow)
 {
     Chart chart(Ramp(101));
@@ -664,4 +341,4 @@ TEST(ChartModel, KeepsAPlotInAWindowThatIsTooNarrow)
 }
 
 } // namespace
-} // namespace skeldon
+} // namespace skeldon::test

@@ -9,6 +9,7 @@
 #include <QFileInfo>
 #include <QGroupBox>
 #include <QLabel>
+#include <QPageSetupDialog>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSpinBox>
@@ -416,6 +417,33 @@ private slots:
         app.Prompts().m_answers.push_back(Answer::No);
         app.PrintCancelled([](CDisplayPrintDialog& dialog) { dialog.accept(); });
         QCOMPARE(BytesOf(path), QByteArray("kept"));
+    }
+
+    void PropertiesShowTheLandscapePageThatComesOut()
+    {
+        CPrintApp app;
+        app.OpenLines(3);
+        std::vector<QPageLayout::Orientation> shown;
+        app.PrintCancelled([&](CDisplayPrintDialog& dialog) {
+            app.Prompts().m_dialogs.push_back([&](QDialog& properties) {
+                const QPrinter& printer = *dynamic_cast<QPageSetupDialog&>(properties).printer();
+                shown.push_back(printer.pageLayout().orientation());
+                return false;
+            });
+            ChildNamed<QPushButton>(dialog, QStringLiteral("&Properties..."))->click();
+        });
+        QCOMPARE(shown, std::vector{QPageLayout::Landscape});
+    }
+
+    void OnlyTheUnitedStatesPrintOnLetter()
+    {
+        const auto paperIn = [](const char* locale) {
+            return UsualPaper(QLocale(QLatin1String(locale)).measurementSystem());
+        };
+        QCOMPARE(paperIn("en_US"), QPageSize::Letter);
+        QCOMPARE(paperIn("en_GB"), QPageSize::A4);
+        QCOMPARE(paperIn("de_DE"), QPageSize::A4);
+        QCOMPARE(paperIn("ja_JP"), QPageSize::A4);
     }
 
     void PrintersAreNoFinerThanNeeded()

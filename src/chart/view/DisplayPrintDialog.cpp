@@ -191,8 +191,13 @@ void CDisplayPrintDialog::OnPrinterChanged()
 
 QPrinter* CDisplayPrintDialog::Printer()
 {
-    if (!m_printer)
-        m_printer = m_printers.Open(m_isPdf ? QString() : m_names->currentText());
+    if (m_printer)
+        return m_printer.get();
+    m_printer = m_printers.Open(m_isPdf ? QString() : m_names->currentText());
+    // Its properties are to show the page as it will come out.
+    static_assert(PrintDialogSettings.chart.horz != 0);
+    if (m_printer)
+        m_printer->setPageOrientation(QPageLayout::Landscape);
     return m_printer.get();
 }
 

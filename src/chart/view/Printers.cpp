@@ -2,8 +2,6 @@
 
 #include "chart/model/PagePlan.h"
 
-#include <QLocale>
-#include <QPageSize>
 #include <QPrinter>
 #include <QPrinterInfo>
 
@@ -14,6 +12,11 @@ namespace skeldon {
 bool CPrinters::CanCollate(const QPrinter& printer) const
 {
     return printer.supportsMultipleCopies();
+}
+
+QPageSize::PageSizeId UsualPaper(QLocale::MeasurementSystem system)
+{
+    return system == QLocale::ImperialUSSystem ? QPageSize::Letter : QPageSize::A4;
 }
 
 QStringList CDesktopPrinters::Names()
@@ -31,8 +34,7 @@ std::unique_ptr<QPrinter> CDesktopPrinters::Open(const QString& name)
     auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
     if (name.isEmpty()) {
         printer->setOutputFormat(QPrinter::PdfFormat);
-        const bool isMetric = QLocale::system().measurementSystem() == QLocale::MetricSystem;
-        printer->setPageSize(QPageSize(isMetric ? QPageSize::A4 : QPageSize::Letter));
+        printer->setPageSize(QPageSize(UsualPaper(QLocale::system().measurementSystem())));
     } else {
         printer->setPrinterName(name);
         if (printer->printerName() != name)

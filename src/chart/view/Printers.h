@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QLocale>
+#include <QPageSize>
 #include <QString>
 #include <QStringList>
 
@@ -26,6 +28,9 @@ public:
     /// its pages are sent as often as they are wanted.
     [[nodiscard]] virtual bool CanCollate(const QPrinter& printer) const;
 };
+
+/// The paper that is usual where this system of measures is: the British have inches and A4.
+[[nodiscard]] QPageSize::PageSizeId UsualPaper(QLocale::MeasurementSystem system);
 
 /// The desktop's printers.
 class CDesktopPrinters final : public CPrinters

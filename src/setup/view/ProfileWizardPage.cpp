@@ -40,6 +40,7 @@ CProfileWizardPage::CProfileWizardPage(CMeasureCondition& condition, int page, Q
     QFont strong = font();
     strong.setBold(true);
     m_heading->setFont(strong);
+    m_heading->setWordWrap(true); // desktops may have large letters
     m_panel = MakeConditionPanel(m_rule.panel, this);
     if (m_rule.up != nullptr) {
         m_up = MakeSpin(SpinKind::Up, m_rule.up);
@@ -102,7 +103,7 @@ void CProfileWizardPage::ShowValue()
 /// rest.
 void CProfileWizardPage::LayOut()
 {
-    m_heading->setGeometry(0, 0, width(), m_heading->sizeHint().height());
+    m_heading->setGeometry(0, 0, width(), m_heading->heightForWidth(width()));
     const QPoint place = m_heading->geometry().bottomLeft() + QPoint(Gap, Gap + 1);
     m_panel->setGeometry(QRect(place, m_panel->sizeHint()));
     if (m_up != nullptr) {

@@ -13,6 +13,7 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QTest>
 #include <QTimer>
 
@@ -55,6 +56,7 @@ private slots:
     void StartOptionsAreToldInSixLines();
     void EachPageHasArrowsOrToggle();
     void PartsStandUnderTheHeading();
+    void HeadingsAreWholeInLargeLetters();
     void DescriptionFollowsTheSize();
     void ValuesShowInYellow();
     void LampFlips();
@@ -182,6 +184,27 @@ void WizardTest::PartsStandUnderTheHeading()
     QCOMPARE(lamp.m_panel->pos(), panel);
     QCOMPARE(lamp.m_toggle->pos(), panel + QPoint(85, 23));
     QCOMPARE(lamp.m_description->y(), panel.y() + 42 + 16);
+}
+
+void WizardTest::HeadingsAreWholeInLargeLetters()
+{
+    const QFont usual = QApplication::font();
+    const auto back = qScopeGuard([&] { QApplication::setFont(usual); });
+    QFont large = usual;
+    large.setPixelSize(24);
+    QApplication::setFont(large);
+    CProfileWizardDialog wizard{CMeasureCondition()};
+    wizard.show();
+    for (int page = 0; page <= LastPage; ++page) {
+        GoTo(wizard, page);
+        const QLabel& heading = *wizard.Page(page).m_heading;
+        const QRect text = QFontMetrics(heading.font())
+                               .boundingRect(QRect(0, 0, heading.width(), 10000), Qt::TextWordWrap,
+                                             heading.text());
+        QVERIFY2(text.width() <= heading.width(), qPrintable(heading.text()));
+        QVERIFY2(text.height() <= heading.height(), qPrintable(heading.text()));
+        QVERIFY(heading.geometry().bottom() < wizard.Page(page).m_panel->y());
+    }
 }
 
 void WizardTest::DescriptionFollowsTheSize()

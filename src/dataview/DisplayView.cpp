@@ -20,6 +20,9 @@ namespace skeldon {
 
 namespace {
 
+/// Height of the letters of buttons.
+constexpr int LetterSize = 12;
+
 /// What an analysis of `data` must know. Lines of a file need nothing of the recorder, which may
 /// just be asked and not answer.
 AnalysisSetting SettingFor(const CMeasureData& data)
@@ -48,6 +51,10 @@ CDisplayView::CDisplayView(QWidget* parent)
     setFocusPolicy(Qt::ClickFocus);
     setMouseTracking(true);
     setPalette(FormPalette(App().m_viewBaseColour));
+    // The buttons' places do not grow with the letters of the desktop.
+    QFont small = font();
+    small.setPixelSize(LetterSize);
+    setFont(small);
     MakeButtons();
     m_list->hide();
     m_chart->hide();

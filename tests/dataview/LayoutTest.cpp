@@ -3,6 +3,7 @@
 #include "controls/ConnectionIcon.h"
 #include "controls/SkinButton.h"
 
+#include <QScopeGuard>
 #include <QTest>
 
 #include <limits>
@@ -275,6 +276,30 @@ private slots:
         QCOMPARE(picture.copy(form), usual.copy(form));
         const QRect top(0, 0, Width, 35);
         QCOMPARE(picture.copy(top), usual.copy(top));
+    }
+
+    void LargeLettersOfTheDesktopChangeNothingOfTheForm_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::newRow("English") << QStringLiteral("English");
+        QTest::newRow("Japanese") << QStringLiteral("Japanese");
+    }
+
+    void LargeLettersOfTheDesktopChangeNothingOfTheForm()
+    {
+        QFETCH(QString, language);
+        const auto pictureWith = [&](const QFont& letters) {
+            QApplication::setFont(letters);
+            CViewApp app(language);
+            app.Show();
+            return app.Picture();
+        };
+        const QFont usual = QApplication::font();
+        const auto back = qScopeGuard([&] { QApplication::setFont(usual); });
+        QFont large = usual;
+        large.setPixelSize(20);
+        const QImage form = pictureWith(usual);
+        QCOMPARE(pictureWith(large), form);
     }
 
     void GrabbedBarJumpsByWhatItWasGrabbedBelowItsTop()

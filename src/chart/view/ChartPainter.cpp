@@ -38,6 +38,12 @@ void Fill(CScaledPainter& painter, const ChartRect& rect, ColourRef colour)
     painter.FillRectScaled(rect.left, rect.top, rect.right, rect.bottom, colour);
 }
 
+/// Where a line of one logical pixel ends that begins at device pixel `first`.
+int EndOfLine(int first, double scale)
+{
+    return first + std::max(Truncate(scale), 1);
+}
+
 /// Right aligned text that ends at a column, in the middle of a few rows.
 void Label(CScaledPainter& painter, const std::string& text, int right, const ValueTickPlace& place,
            ColourRef colour)
@@ -65,12 +71,38 @@ void CChartPainter::SetScale(double scaleX, double scaleY)
 {
     m_scaleX = scaleX;
     m_scaleY = scaleY;
+    m_hasEvenLines = false;
+}
+
+void CChartPainter::SetRatio(double ratio)
+{
+    SetScale(ratio, ratio);
+    m_hasEvenLines = true;
 }
 
 ChartRect CChartPainter::Device(const ChartRect& rect) const
 {
     return {RoundPixel(rect.left * m_scaleX), RoundPixel(rect.top * m_scaleY),
             RoundPixel(rect.right * m_scaleX), RoundPixel(rect.bottom * m_scaleY)};
+}
+
+ChartRect CChartPainter::DeviceLine(const ChartRect& line) const
+{
+    ChartRect device = Device(line);
+    if (!m_hasEvenLines)
+        return device;
+    if (line.right - line.left == 1)
+        device.right = EndOfLine(device.left, m_scaleX);
+    if (line.bottom - line.top == 1)
+        device.bottom = EndOfLine(device.top, m_scaleY);
+    return device;
+}
+
+void CChartPainter::FillLine(CScaledPainter& painter, const ChartRect& line, ColourRef colour) const
+{
+    const ChartRect device = DeviceLine(line);
+    painter.Painter().fillRect(device.left, device.top, device.right - device.left,
+                               device.bottom - device.top, ToColour(colour));
 }
 
 std::uint32_t CChartPainter::Pixel(Series series, bool isDimmed) const
@@ -100,7 +132,7 @@ void CChartPainter::PaintAxis(CScaledPainter& painter)
     Fill(painter, LayerGround(sizes), ChartColour::Background);
     for (const ValueTick& tick : ValueTicks(m_model.m_scale, sizes.clientHeight, m_model.m_unit)) {
         const ValueTickPlace place = PlaceValueTick(sizes, tick.row);
-        Fill(painter, place.gridLine, ChartColour::Grid);
+        FillLine(painter, place.gridLine, ChartColour::Grid);
         Label(painter, tick.acceleration, place.accelerationRight, place, ChartColour::Text);
         Label(painter, tick.temperature, place.temperatureRight, place,
               m_colours.series[Index(Series::Temperature)]);
@@ -196,9 +228,10 @@ void CChartPainter::PaintGrid()
 {
     const ChartSizes sizes = m_model.Sizes();
     for (const ValueGridLine& line : ValueGrid(m_model.m_scale, sizes.clientHeight))
-        m_raster.Fill(Device(PlaceValueTick(sizes, line.row).gridLine), ToPixel(ChartColour::Grid));
+        m_raster.Fill(DeviceLine(PlaceValueTick(sizes, line.row).gridLine),
+                      ToPixel(ChartColour::Grid));
     for (const TimeTick& tick : m_model.m_strip.Ticks())
-        m_raster.Fill(Device(TimeGridLine(sizes, tick.column)), ToPixel(ChartColour::Grid));
+        m_raster.Fill(DeviceLine(TimeGridLine(sizes, tick.column)), ToPixel(ChartColour::Grid));
 }
 
 void CChartPainter::PaintStrokes()
@@ -248,7 +281,7 @@ void CChartPainter::PaintOver(CScaledPainter& painter,
     const ComposeLayout layout = Composed(sizes);
     const auto bar = m_model.m_barChart ? m_model.CurrentBar() : std::nullopt;
     for (const ChartRect& part : CursorFills(sizes, layout.plotHit, m_model.m_cursorX, bar))
-        Fill(painter, part, m_colours.item);
+        FillLine(painter, part, m_colours.item);
     using Vertical = CScaledPainter::Vertical;
     painter.DrawRotatedText(layout.leftTitleColumn, layout.titleRow, Vertical::Centred,
                             Text(StringId::ChartAxes) + Text(UnitText(m_model.m_unit)),

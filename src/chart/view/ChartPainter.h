@@ -33,7 +33,11 @@ public:
     /// `model` and `colours` must outlive the painter.
     CChartPainter(const CChartModel& model, const ChartColours& colours, const QFont& font);
 
+    /// For paper, where every edge is rounded to a dot.
     void SetScale(double scaleX, double scaleY);
+    /// For the screen and pictures: at a ratio such as 1.25, too, all lines of one logical pixel
+    /// are as thick as each other.
+    void SetRatio(double ratio);
     /// Curves are drawn so many device pixels wide, whatever the chart's own line weight is.
     void SetPenWidth(int pixels) { m_penWidth = pixels; }
 
@@ -70,6 +74,9 @@ private:
     void PaintStrokes();
     void PaintFills();
     [[nodiscard]] ChartRect Device(const ChartRect& rect) const;
+    /// The same of what is one logical pixel wide or high.
+    [[nodiscard]] ChartRect DeviceLine(const ChartRect& line) const;
+    void FillLine(CScaledPainter& painter, const ChartRect& line, ColourRef colour) const;
     [[nodiscard]] std::uint32_t Pixel(Series series, bool isDimmed) const;
 
     const CChartModel& m_model;
@@ -77,6 +84,7 @@ private:
     QFont m_font;
     double m_scaleX = 1.0;
     double m_scaleY = 1.0;
+    bool m_hasEvenLines = true;
     std::optional<int> m_penWidth;
     CPlotRaster m_raster;
     std::vector<ChartStroke> m_strokes;

@@ -145,7 +145,7 @@ QImage ChartPicture(const CChartModel& model, const ChartColours& colours, const
     layer.fill(Qt::white);
     strip.fill(Qt::white);
     CChartPainter painter(model, colours, font);
-    painter.SetScale(ratio, ratio);
+    painter.SetRatio(ratio);
     painter.PaintChart(layer);
     painter.DrawTimeStrip(strip, 0);
     return FrameChart(sizes, colours, font, title, ratio,

@@ -192,7 +192,7 @@ void CChartWnd::TellWork(ChartWork work)
 void CChartWnd::PaintLayers(ChartWork work)
 {
     m_layerRatio = devicePixelRatioF();
-    m_painter->SetScale(m_layerRatio, m_layerRatio);
+    m_painter->SetRatio(m_layerRatio);
     if (work == ChartWork::Chart) {
         m_painter->PaintChart(m_chartBitmap);
         m_painter->DrawTimeStrip(m_timeBitmap, 0);

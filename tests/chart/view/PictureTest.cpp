@@ -93,7 +93,7 @@ private slots:
             QImage layer(QSize(900, 600) * ratio, QImage::Format_RGB32);
             layer.fill(Qt::white);
             CChartPainter painter(model, colours, app.Chart().font());
-            painter.SetScale(ratio, ratio);
+            painter.SetRatio(ratio);
             painter.PaintChart(layer);
             return layer;
         };

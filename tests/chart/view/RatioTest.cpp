@@ -15,7 +15,8 @@ const QColor& ColourX = SeriesColours[Index(Series::X)];
 } // namespace
 
 /// The chart's whole window at the pixel ratio of its screen. Every coordinate of the chart times
-/// the ratio is rounded to a device pixel, where one area ends and the next begins.
+/// the ratio is rounded to a device pixel, where one area ends and the next begins; lines of one
+/// pixel begin there and are as thick as each other.
 class RatioTest : public QObject
 {
     Q_OBJECT
@@ -41,13 +42,13 @@ private slots:
         const int between = X(app.Column(5500));
         QSet<int> rows;
         for (int value = -50; value <= 50; value += 5)
-            rows |= Span(Y(CoarseRow(value) - 1), Y(CoarseRow(value)));
+            rows |= Line(Y(CoarseRow(value) - 1));
         QCOMPARE(RowsOf(picture, between, GridGrey), rows);
         const int curve = Y(CoarseRow(10.0));
         QCOMPARE(RowsOf(picture, between, ColourX), Span(curve, curve + Y(1)));
         QSet<int> columns;
         for (int second = 1; second < 20; second += 2)
-            columns |= Span(X(app.Column(second * 1000)), X(app.Column(second * 1000) + 1));
+            columns |= Line(X(app.Column(second * 1000)));
         QCOMPARE(ColumnsOf(picture, Y(30), GridGrey), columns);
         QCOMPARE(ColumnsOf(picture, Y(CoarseRow(20.0) - 1), GridGrey),
                  Span(X(app.PlotLeft()), X(app.PlotRight())));
@@ -82,7 +83,7 @@ private slots:
             QSet<int> rows;
             if (x >= X(column - 2) && x < X(column + 3))
                 rows = Span(Y(21), Y(26)) | Span(Y(320), Y(325));
-            if (x >= X(column) && x < X(column + 1))
+            if (Line(X(column)).contains(x))
                 rows |= Span(Y(26), Y(323));
             QCOMPARE(RowsOf(picture, x, Black) & plot, rows);
         }
@@ -184,6 +185,11 @@ private slots:
     }
 
 private:
+    /// The device pixels of a line of one logical pixel.
+    [[nodiscard]] QSet<int> Line(int first) const
+    {
+        return Span(first, first + static_cast<int>(m_ratio));
+    }
     /// A logical pixel of the window as one of the device.
     [[nodiscard]] int Y(int pixel) const { return static_cast<int>(pixel * m_ratio + 0.5); }
     /// The same of a column, which counts from the gauge's right edge.

@@ -41,6 +41,9 @@ TEST_F(Download, ReadsAllLinesAndClosesThePort)
 {
     m_recorder.On("p", Report("3 100"));
     m_recorder.On("D", Lines(3) + "#");
+    // As a live stream leaves them.
+    m_data.m_hasTemperature = false;
+    m_data.m_hasHumidity = true;
     EXPECT_EQ(Run(), 3);
     ASSERT_EQ(m_data.GetSize(), 3U);
     EXPECT_EQ(m_data.GetRecord(2).m_x, 0.1);

@@ -155,8 +155,11 @@ TEST_F(Online, EndsWithTheFirstEmptyReadBehindFifteenSeconds)
         m_recorder.Arrive("G010203\r");
         ++lines;
     };
+    const std::uint32_t before = m_clock.m_tick;
     Run(1000);
     EXPECT_TRUE(m_link.m_timedOut);
+    // The last line came after 20 seconds, and no 15 seconds more were waited for.
+    EXPECT_LT(m_clock.m_tick - before, 25'000U);
     EXPECT_EQ(m_data.GetSize(), 20U);
     // The recorder is left streaming: no mark, no further drain.
     EXPECT_THAT(m_recorder.Events(), ElementsAre("open /dev/cable", "m", "x", "close"));

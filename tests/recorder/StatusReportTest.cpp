@@ -205,6 +205,9 @@ TEST(StatusReport, ReadsTheThresholdByTypeWithUnitAndPointRemoved)
     EXPECT_EQ(ReadKeys("@Detect=30\r@detect=40\r").m_threshold, 30);
     EXPECT_EQ(ReadKeys("@Type=10\r@Detect=30\r@detect=40\r").m_threshold, 40);
     EXPECT_EQ(ReadKeys("@Type=7\r@Detect=30\r@detect=40\r").m_threshold, 40);
+    // The other one never stands in for it.
+    EXPECT_EQ(ReadKeys("@Type=10\r@Detect=30\r").m_threshold, 0);
+    EXPECT_EQ(ReadKeys("@detect=40\r").m_threshold, 0);
 }
 
 TEST(StatusReport, KeepsAThresholdWithinIntWhateverTheFactor)

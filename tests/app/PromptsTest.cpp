@@ -287,6 +287,20 @@ private slots:
         QCOMPARE(m_desktop.AskOpenPath(nullptr, question), In(u"data.skd"_s));
     }
 
+    void ANameToOpenIsGivenNoExtension()
+    {
+        Touch(In(u"data"_s));
+        Touch(In(u"data.skd"_s));
+        CDialogVisitor visitor([](QFileDialog& dialog) {
+            auto* const edit = dialog.findChild<QLineEdit*>(u"fileNameEdit"_s);
+            QTest::keyClicks(edit, u"data"_s);
+            QTest::keyClick(edit, Qt::Key_Return);
+        });
+        FileQuestion question = Question();
+        question.filters = QStringList{u"SKELDON file(skd,sks) (*.skd *.sks)"_s, u"All (*)"_s};
+        QCOMPARE(m_desktop.AskOpenPath(nullptr, question), In(u"data"_s));
+    }
+
     void OpeningIsCancelledByEscape()
     {
         CDialogVisitor visitor(

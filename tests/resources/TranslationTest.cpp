@@ -7,6 +7,8 @@
 #include <QTest>
 #include <QXmlStreamReader>
 
+#include <utility>
+
 using namespace skeldon;
 
 namespace {
@@ -248,6 +250,40 @@ private slots:
             Text(StringId::WizardStartOptionText).contains(QStringLiteral("\r\n5\u301C90: Set")));
         QVERIFY(Text(StringId::WizardSamplingText).contains(QStringLiteral("every  specified")));
         QVERIFY(Text(StringId::WizardDetectOverText).contains(QStringLiteral("\"SHOCKED\"")));
+    }
+
+    void TextsThatNothingShowsStandAsGiven()
+    {
+        const QList<std::pair<StringId, const char*>> texts{
+            {StringId::AskAdjustTemperature, "Start adjusting temperature.\nAre you sure?"},
+            {StringId::CouldNotAdjustTemperature, "Could not start adjusting temperature."},
+            {StringId::FailedToAdjustHostNumber, "Failed to adjust host number."},
+            {StringId::RemoveCable, "Remove KORVA cable."},
+            {StringId::DatesCorrected, "Dates have been corrected for the new year."},
+            {StringId::PrintRangeTemplate, "Pring range is 1 to 9999 lines."},
+            {StringId::PrintAdvancedChart, "Advanced Settings for Graph printing"},
+            {StringId::PrintAdvancedList, "Advanced Settings for List printing"},
+            {StringId::PrintMargins, "Mar&gins 0-%d"},
+            {StringId::PrintZoom, "&Zoom %d-%d"},
+            {StringId::PromptStartReal, "Start measuring in real mode"},
+            {StringId::PromptStopReal, "Stop measuring in real mode"},
+            {StringId::PromptConfigureReal, "Configure the real mode setup"},
+            {StringId::CaptionReal, "Real"},
+            {StringId::CaptionStart, "Start"},
+            {StringId::CaptionReplay, "Replay"},
+            {StringId::AskStopReal, "Do you want to stop real mode?"},
+            {StringId::AskEndReal, "Are you sure to end real mode?"},
+            {StringId::StoppingReal, "Can not get the measured data. Stopping real mode."},
+            {StringId::StopMeasuring, "Failed to get the data. Stop measuring."},
+            {StringId::PromptDeleteMarked, "Delete all marked lines"},
+            {StringId::PromptDeleteUnmarked, "Delete all unmarked lines"},
+            {StringId::PromptAddMarkAtClick, "Add mark to the clicked position"},
+            {StringId::PromptRemoveMarkAtClick, "Remove mark from the clicked position"},
+            {StringId::PromptPreviousMark, "Move to the previous mark"},
+            {StringId::PromptNextMark, "Move to the next mark"},
+            {StringId::PromptExtract, "Extract matched condition from measured data"}};
+        for (const auto& [id, text] : texts)
+            QCOMPARE(Text(id), QString::fromLatin1(text));
     }
 
     void GivenJapaneseTextsStandAsTheyAre()

@@ -89,6 +89,22 @@ private slots:
         }
     }
 
+    void MarkedAndExtractedLinesLookLikeAnyOther()
+    {
+        const auto picture = [](std::uint16_t flags, bool isBarChart) {
+            ChartLine line = Level;
+            line.flags = flags;
+            CChartApp app(SecondLines(20, line));
+            app.Chart().SetBarChart(isBarChart);
+            return app.Picture();
+        };
+        for (const bool isBarChart : {false, true}) {
+            const QImage plain = picture(0, isBarChart);
+            QVERIFY(picture(RecordFlag::Marked, isBarChart) == plain);
+            QVERIFY(picture(RecordFlag::Extracted, isBarChart) == plain);
+        }
+    }
+
     void AColumnOfManyLinesShowsTheirTruePeakAndTheLastOneNone()
     {
         std::vector<ChartLine> lines = SecondLines(20);

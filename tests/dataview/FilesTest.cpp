@@ -1,5 +1,6 @@
 #include "ViewApp.h"
 #include "app/DataFolder.h"
+#include "base/CalendarTime.h"
 #include "controls/SkinButton.h"
 #include "files/DataFile.h"
 
@@ -118,6 +119,19 @@ private slots:
         KeepFolder(app, kept);
         app.View().OnCommand(CommandId::Open);
         QTEST(app.Prompts().m_shown[0].question.folder, "offered");
+    }
+
+    void FolderIsKeptEvenWhereReadingOrWritingFails()
+    {
+        CViewApp app;
+        OpenChanged(app);
+        SaveAs(app, app.Path(QStringLiteral("nowhere/b.skd")));
+        QCOMPARE(app.Prompts().Boxes().size(), 1);
+        QCOMPARE(Kept(app, "DataPath"), app.Path(QStringLiteral("nowhere")));
+        app.Prompts().m_answers = {Answer::No};
+        app.Open(app.Path(QStringLiteral("elsewhere/a.skd")));
+        QVERIFY(app.View().Data().IsEmpty());
+        QCOMPARE(Kept(app, "DataPath"), app.Path(QStringLiteral("elsewhere")));
     }
 
     void CancelledOpenChangesNothing()
@@ -511,6 +525,26 @@ private slots:
                  QStringList{QStringLiteral("Error in temperature.\n")});
         QCOMPARE(BoxesAfterOpening([](CMeasureRecord& line) { line.m_humidity = 100.5; }),
                  QStringList{QStringLiteral("Error in Humidity.\n")});
+    }
+
+    void YearsOfAFileAreNotRepaired()
+    {
+        // A break that lies in the future, which a read-back would move by a year.
+        constexpr CalendarSeconds Days = 24 * 60 * 60;
+        CMeasureData measured = MeasuredLines(3);
+        for (std::size_t i = 0; i < measured.GetSize(); ++i) {
+            CMeasureRecord line = measured.GetRecord(i);
+            line.m_time = Now() + (i == 0 ? 600 : 300) * Days + static_cast<CalendarSeconds>(i);
+            measured.SetRecord(i, line);
+        }
+        CViewApp app;
+        app.Show();
+        app.Open(app.FileOf(measured, QStringLiteral("future.skd")));
+        QCOMPARE(app.Prompts().Boxes(), QStringList{QStringLiteral("Error in date/time.\n")});
+        QVERIFY(app.View().Data().m_yearRepairable);
+        for (std::size_t i = 0; i < measured.GetSize(); ++i)
+            QCOMPARE(app.View().Data().GetRecord(i).m_time, measured.GetRecord(i).m_time);
+        QVERIFY(app.View().Data().GetRecord(2).HasFlag(RecordFlag::BehindBreak));
     }
 
     void ErrorsAreToldTogetherInTheirOrder()

@@ -257,6 +257,27 @@ private slots:
         app.RemoveJunk();
     }
 
+    void NothingIsLeftToBeSavedWhereNoReadBackBegan()
+    {
+        CFrameApp app;
+        QVERIFY(app.StartWith({"--lines", "10"}));
+        // Lines as they are stored: there is nothing to ask about them.
+        app.m_prompts->m_paths.push_back(app.WriteLines(QStringLiteral("stored.skd"), 5));
+        app.View().OnCommand(CommandId::Open);
+        QVERIFY(app.View().Data().m_signature != 0);
+        app.Pull();
+        app.PlugInJunk();
+        GetData(app);
+        QVERIFY(app.View().Data().IsEmpty());
+        QCOMPARE(app.m_prompts->Boxes(), QStringList{Failed});
+        // Nor about none at all.
+        QVERIFY(app.View().Data().SignatureUnchanged());
+        app.View().OnCommand(CommandId::ViewSetup);
+        QCOMPARE(app.m_prompts->Boxes(), QStringList{Failed});
+        QCOMPARE(app.Frame().CurrentView(), ViewIndex::Setup);
+        app.RemoveJunk();
+    }
+
     void RecorderThatFallsSilentBeforeItsStatus()
     {
         CFrameApp app;

@@ -300,6 +300,25 @@ private slots:
             QVERIFY(data.Records()[i].TimeMs() > data.Records()[i - 1].TimeMs());
     }
 
+    void NewYearBehindTheClockIsRepairedWithoutAWord()
+    {
+        // A report without month and day, of a year to come: time falls at the new year, to an
+        // instant that the PC's clock has not reached.
+        const int year = ToLocalFields(Now()).year + 2;
+        CFrameApp app;
+        QVERIFY(app.StartWith({"--lines", "100", "--fault", "new-year=40", "--fault", "year-only",
+                               "--from", std::to_string(year) + "-06-13 07:00:00"}));
+        GetData(app);
+        const CMeasureData& data = app.View().Data();
+        QCOMPARE(data.GetSize(), std::size_t{100});
+        QCOMPARE(ToLocalFields(data.Records()[40].m_time).year,
+                 ToLocalFields(data.Records()[39].m_time).year + 1);
+        QVERIFY(!data.Records()[40].HasFlag(RecordFlag::BehindBreak));
+        QVERIFY(data.Records()[40].HasFlag(RecordFlag::Abnormal)); // which the repair leaves
+        QCOMPARE(data.m_firstBreak, std::ptrdiff_t{100});
+        QCOMPARE(app.m_prompts->Boxes(), QStringList());
+    }
+
     void BreakInTimeIsTold()
     {
         CFrameApp app;

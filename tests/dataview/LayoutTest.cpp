@@ -2,6 +2,7 @@
 #include "chart/view/ChartWnd.h"
 #include "controls/ConnectionIcon.h"
 #include "controls/SkinButton.h"
+#include "dataview/DataViewLayout.h"
 
 #include <QScopeGuard>
 #include <QTest>
@@ -336,6 +337,17 @@ private slots:
             Drag(app, below, Height - 10);
             QCOMPARE(BorderOf(app), Height - 234);
         }
+    }
+
+    void LowestBorderWinsOverTheHighestInALowWindow()
+    {
+        const CDataViewLayout low({670, 300}, false);
+        QCOMPARE(low.ClampListBorder(0), 66);
+        QCOMPARE(low.ClampListBorder(96), 66);
+        QCOMPARE(low.ClampListBorder(500), 66);
+        const CDataViewLayout usual(CDataViewLayout::FormSize(false), false);
+        QCOMPARE(usual.ClampListBorder(0), 96);
+        QCOMPARE(usual.ClampListBorder(500), 254);
     }
 
     void OnlyTheBarCanBeDragged()

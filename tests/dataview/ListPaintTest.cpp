@@ -41,6 +41,13 @@ bool Holds(const QImage& picture, const QRect& rect, const QColor& colour)
     return false;
 }
 
+/// The number of a row that is not selected.
+QImage NumberOfAPlainRow(CViewApp& app, int row)
+{
+    app.List().clearSelection();
+    return RowsOf(app).copy(0, row * RowHeight, 55, RowHeight);
+}
+
 void ShowLines(CViewApp& app, int count)
 {
     app.Show({760, 488});
@@ -100,6 +107,10 @@ private slots:
         QVERIFY(!inkIn(date.adjusted(0, 0, -75, 0))); // left tenth
         QVERIFY(inkIn(date.adjusted(70, 0, -3, 0)));
         QVERIFY(inkIn({30, 1, 23, 12}));
+        // Of a text that is half as long as its cell is wide nothing stands in the left third.
+        const QRect x(225, 1, 65, 12);
+        QVERIFY(inkIn(x.adjusted(45, 0, -3, 0)));
+        QVERIFY(!inkIn(x.adjusted(0, 0, -45, 0)));
     }
 
     void ColumnsWithoutAQuantityStayEmpty()
@@ -167,6 +178,8 @@ private slots:
         const QImage rows = RowsOf(app);
         const int top = RowHeight;
         QCOMPARE(rows.pixelColor(1, top + 1), Face);
+        // The number stays as it is in any row.
+        QCOMPARE(rows.copy(0, top, 55, RowHeight), NumberOfAPlainRow(app, 1));
         QCOMPARE(rows.pixelColor(56, top + 1), Chosen);
         QCOMPARE(rows.pixelColor(56, top + 14), Grid);
         QCOMPARE(rows.pixelColor(138, top + 1), Grid);

@@ -1,5 +1,6 @@
 #include "FrameApp.h"
 
+#include "base/CalendarTime.h"
 #include "controls/SkinButton.h"
 #include "online/OnlineCounter.h"
 #include "online/OnlineDialog.h"
@@ -66,6 +67,51 @@ private slots:
         QVERIFY(!data.SignatureUnchanged());
         QCOMPARE(app.m_prompts->Boxes(), QStringList());
         QVERIFY(app.View().CanOperate());
+    }
+
+    void LinesBeforeTheReportsDayGoToTheNextYear()
+    {
+        CFrameApp app;
+        QVERIFY(app.Start());
+        app.Settings().WriteInt(SystemSection, QStringLiteral("OnlineSecond"), 1);
+        app.PlugIn({"--time-scale", "4"});
+        QVERIFY(app.Connect());
+        // Behind every day of the year: whenever this runs, the stream is dated before it.
+        app.m_app->m_link.m_month = 12;
+        app.m_app->m_link.m_day = 32;
+        Record(app);
+        const CMeasureData& data = app.View().Data();
+        QCOMPARE(data.GetSize(), std::size_t{200});
+        const CalendarSeconds begin = app.m_app->m_link.m_onlineStart;
+        QCOMPARE(data.GetRecord(0).m_time, OneYearLater(ToLocalFields(begin)));
+        QCOMPARE(app.m_prompts->Boxes(), QStringList());
+    }
+
+    void OtherHeaderValuesStayAsTheyWere()
+    {
+        CFrameApp app;
+        QVERIFY(app.Start());
+        app.TakeLines(3);
+        CMeasureData& data = app.View().Data();
+        data.m_hazard = 35;
+        data.m_endless = true;
+        data.m_title = "Crate 7";
+        app.Settings().WriteInt(SystemSection, QStringLiteral("OnlineSecond"), 1);
+        app.PlugIn({"--type", "qm70", "--alpha", "--time-scale", "4"});
+        QVERIFY(app.Connect());
+        app.m_prompts->m_answers = {Answer::No};
+        Record(app);
+        QCOMPARE(data.GetSize(), std::size_t{200});
+        QCOMPARE(data.m_modelName, std::string("QM70"));
+        // Neither those of the connected recorder nor none.
+        QCOMPARE(data.m_hazard, 35);
+        QVERIFY(data.m_endless);
+        QCOMPARE(data.m_title, std::string("Crate 7"));
+        // What a clearing takes away is not filled in again.
+        QCOMPARE(data.GetSampling(), -1);
+        QCOMPARE(data.GetInterval(), -1);
+        QCOMPARE(data.m_threshold, -1);
+        QCOMPARE(data.m_hostNumber, -1);
     }
 
     void LongestRecordingReachesTheViewWhole()

@@ -267,6 +267,27 @@ private slots:
         QCOMPARE(lines.last, 15);
     }
 
+    void EachPrintStartsWithAllLines()
+    {
+        CPrintApp app;
+        app.OpenLines(20);
+        QStringList offered;
+        const auto take = [&offered](QDialog& dialog) {
+            offered += Line(dialog, "First line").text();
+            offered += Line(dialog, "Last line").text();
+            Line(dialog, "First line").setText(QStringLiteral("3"));
+            Line(dialog, "Last line").setText(QStringLiteral("15"));
+            dialog.accept();
+            return false;
+        };
+        for (int i = 0; i < 2; ++i) {
+            app.Prompts().m_dialogs.push_back(take);
+            app.View().OnCommand(CommandId::Print);
+        }
+        const QStringList all{QStringLiteral("1"), QStringLiteral("20")};
+        QCOMPARE(offered, all + all);
+    }
+
     void TheListButtonPrintsTheChart()
     {
         CPrintApp app;

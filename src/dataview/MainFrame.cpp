@@ -1,6 +1,7 @@
 #include "dataview/MainFrame.h"
 
 #include "app/SkeldonApp.h"
+#include "controls/FittedLabel.h"
 #include "dataview/DisplayView.h"
 #include "dataview/FrameMenus.h"
 #include "dataview/ManualPath.h"
@@ -122,10 +123,8 @@ QMenuBar* CMainFrame::MenuOf(ViewIndex view) const
 
 void CMainFrame::MakeStatusBar()
 {
-    for (QLabel*& pane : m_panes) {
-        pane = new QLabel(this);
-        pane->setTextFormat(Qt::PlainText);
-    }
+    for (QLabel*& pane : m_panes)
+        pane = new CFittedLabel(this);
     m_panes[0]->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_panes[1]->setMinimumWidth(ModelPaneWidth);
     m_panes[2]->setMinimumWidth(ReleasePaneWidth);

@@ -70,6 +70,9 @@ CChartWnd::CChartWnd(QWidget* parent)
     setAttribute(Qt::WA_OpaquePaintEvent);
     setContextMenuPolicy(Qt::NoContextMenu);
     setAccessibleName(Text(StringId::NameChart));
+    // Spelled so on purpose: names that are old are kept.
+    m_vertScroll->setObjectName(QStringLiteral("IDC_VERT_SCROOL"));
+    m_horzScroll->setObjectName(QStringLiteral("IDC_HORZ_SCROOL"));
     for (QScrollBar* const bar : {m_vertScroll, m_horzScroll}) {
         bar->setFocusPolicy(Qt::NoFocus);
         bar->setSingleStep(ScrollStep(false));

@@ -4,6 +4,7 @@
 
 #include <QAction>
 #include <QMenu>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
 #include <QWheelEvent>
@@ -229,6 +230,29 @@ private slots:
         QVERIFY(!app.Chart().Model().CanDisplayInCenter());
         QTest::mouseClick(&app.Chart(), Qt::LeftButton, {}, centre);
         QCOMPARE(app.Codes(), Codes{});
+    }
+
+    void CornerButtonsWorkWhileASelectionIsArmed()
+    {
+        CChartApp app(SecondLines(100));
+        const QPoint form(app.Chart().width() - 8, app.Chart().height() - 8);
+        QVERIFY(app.Chart().BeginAreaSelection());
+        QTest::mouseClick(&app.Chart(), Qt::LeftButton, {}, form);
+        QCOMPARE(app.Codes(), (Codes{{Code::CornerUsed, 0}}));
+        QVERIFY(app.Chart().Model().m_barChart);
+        // It is still armed.
+        QVERIFY(!app.Chart().BeginAreaSelection());
+        Drag(app, app.Column(60'000), app.Column(20'000));
+        QCOMPARE(app.Codes(), (Codes{{Code::AreaEnded, 1}}));
+    }
+
+    void ScrollBarsHaveTheirOddNames()
+    {
+        CChartApp app(SecondLines(20));
+        QCOMPARE(app.Chart().findChild<QScrollBar*>(QStringLiteral("IDC_VERT_SCROOL")),
+                 &app.Bar(Qt::Vertical));
+        QCOMPARE(app.Chart().findChild<QScrollBar*>(QStringLiteral("IDC_HORZ_SCROOL")),
+                 &app.Bar(Qt::Horizontal));
     }
 
     void ASelectionZoomsOnceAndIsOver()

@@ -259,6 +259,22 @@ private slots:
         QVERIFY(app.View().Button(DataViewButton::ZoomIn).IsPressed());
     }
 
+    void LargestZoomAllowsNoOther()
+    {
+        CViewApp app;
+        app.Show();
+        app.OpenLines(5);
+        for (int i = 0; i < 10 && app.Can(CommandId::HorizontalInflate); ++i)
+            app.View().OnCommand(CommandId::HorizontalInflate);
+        QVERIFY(app.View().Chart().Model().m_window.m_atMaxZoom);
+        QVERIFY(!app.Can(CommandId::HorizontalInflate));
+        QVERIFY(!app.Can(CommandId::SelectArea));
+        QVERIFY(!app.View().Button(DataViewButton::ZoomIn).isEnabled());
+        app.View().OnCommand(CommandId::HorizontalDeflate);
+        QVERIFY(app.Can(CommandId::HorizontalInflate));
+        QVERIFY(app.View().Button(DataViewButton::ZoomIn).isEnabled());
+    }
+
     void NothingCanBeDoneWhileAnAreaIsDraggedOut()
     {
         CViewApp app;

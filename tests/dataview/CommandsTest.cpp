@@ -5,6 +5,7 @@
 #include "dataview/ButtonForms.h"
 
 #include <QDir>
+#include <QMenu>
 #include <QTest>
 
 #include <algorithm>
@@ -286,6 +287,63 @@ private slots:
         Check(app, base + std::vector{AddMark, DeleteLine, PreviousMark});
         app.List().selectRow(4);
         Check(app, base + std::vector{AddMark, DeleteLine, DeleteSelected, PreviousMark});
+    }
+
+    void MarksGoByTheirOwnRulesWhileAnAreaIsChosen()
+    {
+        CViewApp app;
+        app.Show();
+        app.Open(app.FileOf(RichData(), QStringLiteral("rich.skd")));
+        app.Click(DataViewButton::ZoomIn);
+        QVERIFY(!app.View().CanOperate());
+        const std::vector<CommandId> any{CommandId::CopyCsv,        CommandId::MarkExtracted,
+                                         CommandId::RemoveAllMarks, CommandId::DeleteMarked,
+                                         CommandId::DeleteUnmarked, CommandId::DeleteIllegal,
+                                         CommandId::DisplayExtract};
+        // The way from mark to mark alone needs a view that can operate.
+        GoTo(app, 2);
+        Check(app, any + std::vector{CommandId::AddMark, CommandId::DeleteLine});
+        GoTo(app, 1);
+        Check(app, any + std::vector{CommandId::RemoveMark, CommandId::DeleteLine});
+    }
+
+    void ConditionsCanBeDisplayedWithoutALineThatMeetsThem()
+    {
+        CMeasureData measured = MeasuredLines(3);
+        measured.m_extract = RichData().m_extract;
+        CViewApp app;
+        app.Show();
+        app.Open(app.FileOf(measured, QStringLiteral("conditions.skd")));
+        QVERIFY(app.Can(CommandId::DisplayExtract));
+        QVERIFY(!app.Can(CommandId::MarkExtracted));
+    }
+
+    void MarksAtTheClickFollowTheLineOfTheLastClick()
+    {
+        CViewApp app;
+        app.Show();
+        app.Open(app.FileOf(RichData(), QStringLiteral("rich.skd")));
+        CChartWnd& chart = app.View().Chart();
+        const auto expect = [&app](bool canAdd, bool canRemove) {
+            QCOMPARE(app.Can(CommandId::AddMarkAtClick), canAdd);
+            QCOMPARE(app.Can(CommandId::RemoveMarkAtClick), canRemove);
+        };
+        const auto clickBeside = [&](int line, int columns) {
+            const CChartModel& model = chart.Model();
+            const auto column = static_cast<int>(model.m_window.Column(model.m_index.Time(line)));
+            QTest::mousePress(&chart, Qt::RightButton, {},
+                              {column + columns + model.Sizes().gaugeWidth, 60});
+            for (QMenu* const popup : chart.findChildren<QMenu*>())
+                popup->close();
+            app.Settle();
+        };
+        expect(true, false); // the first line, as long as nothing was clicked
+        clickBeside(1, 0);
+        expect(false, true);
+        clickBeside(1, 5);
+        expect(false, false);
+        clickBeside(2, 1);
+        expect(true, false);
     }
 
     void EachErrorAloneEnablesTheIllegalLines()

@@ -174,6 +174,23 @@ private slots:
         QCOMPARE(app.List().CurrentRow(), 3);
     }
 
+    void RowsBehindABreakInTimeCanHaveTheFocus()
+    {
+        CMeasureData measured = MeasuredLines(5);
+        measured.SetRecord(3, LineAfter(-60));
+        CViewApp app;
+        app.Show();
+        app.Open(app.FileOf(measured, QStringLiteral("broken.skd")));
+        QCOMPARE(app.View().Data().m_firstBreak, std::ptrdiff_t{3});
+        CAnnouncements announced(app.List());
+        ClickRow(app, 1);
+        ClickRow(app, 4);
+        QCOMPARE(announced.Rows(), (QList<int>{1, -1, 4}));
+        QCOMPARE(app.List().CurrentRow(), 4);
+        // The chart does not show it and stays where it was.
+        QCOMPARE(app.View().Chart().Model().m_currentLine, 1);
+    }
+
     void ChartHearsAtOnceAndTheViewLater()
     {
         CViewApp app;

@@ -11,6 +11,9 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QTest>
+#include <QUrl>
+
+#include <vector>
 
 using namespace skeldon;
 using namespace skeldon::test;
@@ -333,6 +336,16 @@ private slots:
         const CPageBesideTheProgram page(english);
         QCOMPARE(ManualPath(false), page.Path());
         QVERIFY(!ManualPath(true).endsWith(english));
+    }
+
+    void HelpOpensTheJapaneseManualInJapanese()
+    {
+        const CPageBesideTheProgram english(QStringLiteral("SKELDON_Light_En.html"));
+        const CPageBesideTheProgram japanese(QStringLiteral("SKELDON_Light_Jp.html"));
+        CFrameApp app(Japanese);
+        QVERIFY(app.Start());
+        app.Frame().OnCommand(CommandId::Help);
+        QCOMPARE(app.m_prompts->m_pages, std::vector{QUrl::fromLocalFile(japanese.Path())});
     }
 
     void MissingManualIsPassedOver()

@@ -177,6 +177,8 @@ private slots:
         app.OpenLines(5);
         QGuiApplication::clipboard()->setText(QStringLiteral("kept"));
         app.Prompts().m_clipboardFails = true;
+        // As the copy before left it.
+        app.Frame().SetStatusText(QStringLiteral("Copied to the clipboard"));
         QString status;
         app.Prompts().m_whileShown = [&](const Prompt&) { status = app.Frame().m_status; };
         app.View().OnCommand(command);

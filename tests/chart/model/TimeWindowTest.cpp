@@ -28,6 +28,14 @@ TEST(TimeWindow, IsPaddedByHalfABarAtEachSide)
     EXPECT_EQ(window.m_paddedEnd, 1'000'100'000 + 3);
 }
 
+TEST(TimeWindow, HalvesABarOfOddWidthToWholeMilliseconds)
+{
+    CTimeWindow window = Window();
+    window.SetBarWidth(5);
+    window.m_pixelsPerMs = 8.0;
+    EXPECT_EQ(window.HalfBar(), 16);
+}
+
 TEST(TimeWindow, MapsTimesToColumnsTowardZero)
 {
     const CTimeWindow window = Window();
